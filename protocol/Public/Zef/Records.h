@@ -81,7 +81,7 @@ struct FAvailability
 /** Triangles of one material inside one surface. */
 struct FSection
 {
-	std::int32_t MaterialIndex = 0; // key into FSurfaceMesh::Materials
+	std::int32_t MaterialIndex = 0;	   // key into FSurfaceMesh::Materials
 	std::vector<std::int32_t> Indices; // three per triangle, local to the surface
 };
 
@@ -90,7 +90,7 @@ struct FSurface
 {
 	std::string Name;
 	std::int32_t SurfaceType = 0;
-	std::int32_t SurfaceMode = 0; // 1: every material of this surface is drawn translucent
+	std::int32_t SurfaceMode = 0;  // 1: every material of this surface is drawn translucent
 	std::int32_t VertexOffset = 0; // count of the vertices of the surfaces before this one
 	std::vector<FVec3> Positions;
 	std::vector<FVec3> Normals;
@@ -103,7 +103,7 @@ struct FJoint
 {
 	std::string Name;
 	std::int32_t ParentIndex = -1; // -1: root; parents stand before children
-	FTransform Transform; // relative to the parent
+	FTransform Transform;		   // relative to the parent
 };
 
 struct FBoneWeight
@@ -143,9 +143,10 @@ enum : std::int32_t
 struct FMaterialExpression
 {
 	std::int32_t TextureId = -1; // key into FSurfaceMesh::Textures; absent there: no map
-	std::vector<std::pair<std::int32_t, float>> Scalars; // 0 intensity (opacity: alpha mode), 1 value, 3 roughness map used
+	std::vector<std::pair<std::int32_t, float>>
+		Scalars; // 0 intensity (opacity: alpha mode), 1 value, 3 roughness map used
 	std::vector<std::pair<std::int32_t, FVec4>> Vectors; // 0 colour of BaseColor
-	FTransform UVTransform; // rotation about z, translation xy = offset, scale xy = amount
+	FTransform UVTransform;								 // rotation about z, translation xy = offset, scale xy = amount
 };
 
 struct FMaterial
@@ -153,7 +154,8 @@ struct FMaterial
 	std::vector<std::pair<std::int32_t, FMaterialExpression>> Expressions; // by MaterialChannel, in order
 	std::int32_t Id = 0;
 	std::string Name;
-	std::int32_t MaterialKind = 0; // 0..14: Matte Shiny Metal Plastic Leather Silk Velvet GlassGem Fur Light Glitter GlassGem Skin Iridescence KnitWear
+	std::int32_t MaterialKind = 0; // 0..14: Matte Shiny Metal Plastic Leather Silk Velvet GlassGem Fur Light Glitter
+								   // GlassGem Skin Iridescence KnitWear
 	bool bUseTransparency = false;
 	bool bSubstance = false;
 	std::string SubstanceAssetPath;

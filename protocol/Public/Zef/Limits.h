@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+/** What one end of the link is ready to take: every number that a received message is held against. */
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace Zef
+{
+
+/**
+ * Budget of one connection. A message beyond it is refused before memory is taken for it.
+ * The defaults admit any scene that an editor can hold; a test or a small machine lowers them.
+ */
+struct FLimits
+{
+	/** Bytes of all arrays of one item together; of all frames together for a mesh sequence. */
+	std::uint64_t MaxItemBytes = std::uint64_t(8) << 30;
+	/** Bytes of an item's header: names, joints, materials and counts. */
+	std::uint32_t MaxHeaderBytes = 32u << 20;
+	/** Bytes of one piece on arrival; a longer message part closes the connection. */
+	std::uint32_t MaxPieceBytes = 4u << 20;
+	/** Bytes of pieces that the other end may have under way before it hears that they were taken. */
+	std::uint64_t WindowBytes = 16u << 20;
+	/** Bytes of UTF-8 in the name of a surface, joint or material. Leaves room for what the editor puts around it. */
+	std::uint32_t MaxNameBytes = 512;
+	/** Bytes of UTF-8 in an asset path, and in a sentence of the other end. */
+	std::uint32_t MaxPathBytes = 4096;
+	/** Bone indices are 16 bits wide in the editor. */
+	std::uint32_t MaxJoints = 65535;
+	/** Entries of one list: surfaces, sections of a surface, materials, textures. */
+	std::uint32_t MaxEntries = 1u << 20;
+	/** Frames of one animation. */
+	std::uint32_t MaxFrames = 1u << 24;
+	/** Pixels along one side of a texture. */
+	std::uint32_t MaxTextureSide = 65536;
+	/** Connections that a garment application serves at once. */
+	std::uint32_t MaxClients = 16;
+};
+
+/** The editor counts the elements of an array in 32 signed bits. */
+inline constexpr std::uint64_t MaxArrayElements = 0x7fffffff;
+
+/** Bytes of a piece as this library cuts them; about the rate's optimum on a local socket. */
+inline constexpr std::uint32_t DefaultPieceBytes = 1u << 20;
+
+/** Versions of the protocol that this library speaks. */
+inline constexpr std::uint16_t MinProtocolVersion = 1;
+inline constexpr std::uint16_t MaxProtocolVersion = 1;
+
+} // namespace Zef
