@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+/** Names of the three axes. */
+#pragma once
+
+namespace EAxis
+{
+enum Type
+{
+	None,
+	X,
+	Y,
+	Z
+};
+}
