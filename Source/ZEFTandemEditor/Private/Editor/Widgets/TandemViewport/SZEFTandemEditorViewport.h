@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+/** The 3D view of the preview scene, and the factory of what stands in it. */
+#pragma once
+
+#include "SAssetEditorViewport.h"
+
+class FZEFPreviewScene;
+class FZEFTandemEditorViewportClient;
+class IZEFTandemEditor;
+class UDynamicMeshComponent;
+class UMaterialInterface;
+class USkeletalMesh;
+class USkeletalMeshComponent;
+
+namespace UE::Geometry
+{
+class FDynamicMesh3;
+}
+
+class SZEFTandemEditorViewport : public SAssetEditorViewport
+{
+public:
+	SLATE_BEGIN_ARGS(SZEFTandemEditorViewport) {}
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs, const TSharedPtr<FZEFPreviewScene>& InPreviewScene,
+		const TSharedPtr<IZEFTandemEditor>& InEditor);
+
+	/** Spawns an actor that shows the mesh; its component is movable where the preview feature level is below SM5. */
+	USkeletalMeshComponent* AddSkeletalMeshComponent(USkeletalMesh* Mesh);
+
+	/**
+	 * Spawns an actor that shows a copy of the mesh; its component is static where the preview feature level is below
+	 * SM5.
+	 *
+	 * @param Materials  by material id of the mesh's triangles
+	 */
+	UDynamicMeshComponent* AddDynamicMeshComponent(
+		const UE::Geometry::FDynamicMesh3* Mesh, const TArray<UMaterialInterface*>& Materials);
+
+protected:
+	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
+
+private:
+	TSharedPtr<FZEFPreviewScene> PreviewScene;
+	TWeakPtr<IZEFTandemEditor> EditorInstance;
+	TSharedPtr<FZEFTandemEditorViewportClient> ViewportClient;
+};

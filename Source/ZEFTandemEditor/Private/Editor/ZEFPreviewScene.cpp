@@ -1,0 +1,4 @@
+// SPDX-License-Identifier: MIT
+#include "Editor/ZEFPreviewScene.h"
+
+FZEFPreviewScene::~FZEFPreviewScene() = default;
