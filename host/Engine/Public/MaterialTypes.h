@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
+#include "MaterialTypes.generated.h"
 
 /** Where a parameter belongs: to the whole material, or to one layer or blend of it. */
 enum EMaterialParameterAssociation : int
@@ -14,12 +15,20 @@ enum EMaterialParameterAssociation : int
 };
 
 /** The name of a material parameter, with the layer that it belongs to. */
+USTRUCT()
 struct FMaterialParameterInfo
 {
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere, Category = MaterialParameterInfo)
 	FName Name;
+
+	/** What the parameter belongs to. */
+	UPROPERTY(EditAnywhere, Category = MaterialParameterInfo)
 	TEnumAsByte<EMaterialParameterAssociation> Association;
 
 	/** Number of the layer or blend; INDEX_NONE for a global parameter. */
+	UPROPERTY(EditAnywhere, Category = MaterialParameterInfo)
 	int32 Index;
 
 	FMaterialParameterInfo(
