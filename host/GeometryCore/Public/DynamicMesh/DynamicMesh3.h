@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+/** Editable triangle mesh. */
+#pragma once
+
+#include "BoxTypes.h"
+#include "Containers/Array.h"
+#include "DynamicMesh/InfoTypes.h"
+#include "GeometryTypes.h"
+#include "IndexTypes.h"
+#include "Misc/EnumClassFlags.h"
+#include "Misc/Optional.h"
+#include "Templates/UniquePtr.h"
+#include "Util/RefCountVector.h"
+
+namespace UE::Geometry
+{
+
+class FDynamicMeshAttributeSet;
+
+/** Arrays that a mesh may carry beside positions and triangles. */
+enum class EMeshComponents : uint8
+{
+	None = 0,
+	VertexNormals = 1,
+	VertexColors = 2,
+	VertexUVs = 4,
+	FaceGroups = 8
+};
+ENUM_CLASS_FLAGS(EMeshComponents);
+
+/**
+ * A triangle mesh that stays manifold along its edges: no edge ever has more than two triangles, and no three vertices
+ * form more than one. The winding of neighbours is not looked at, and vertices may be isolated or bow ties.
+ *
+ * Ids are given out in ascending order while nothing is removed; a freed id is used again before any new one.
+ * Attributes that change along seams (normals, texture coordinates, material ids) live in the attribute set, which
+ * a mesh has only after EnableAttributes().
+ */
+class GEOMETRYCORE_API FDynamicMesh3
+{
+public:
+	constexpr static int InvalidID = IndexConstants::InvalidID;
+	/** Answer of AppendTriangle(): an edge would get a third triangle. */
+	constexpr static int NonManifoldID = -2;
+	/** Answer of AppendTriangle(): the three vertices form a triangle already. */
+	constexpr static int DuplicateTriangleID = -3;
+	constexpr static FIndex3i InvalidTriangle{InvalidID, InvalidID, InvalidID};
+	constexpr static FIndex2i InvalidEdge{InvalidID, InvalidID};
+
+	/** Empty, with positions and triangles only. */
+	FDynamicMesh3();
+	explicit FDynamicMesh3(bool bWantNormals, bool bWantColors, bool bWantUVs, bool bWantTriGroups);
+	explicit FDynamicMesh3(EMeshComponents Flags);
+	/** Copies take over everything, with an attribute set of their own. */
+	FDynamicMesh3(const FDynamicMesh3& CopyMesh);
+	FDynamicMesh3(FDynamicMesh3&& MoveMesh);
+	~FDynamicMesh3();
+	FDynamicMesh3& operator=(const FDynamicMesh3& CopyMesh);
+	FDynamicMesh3& operator=(FDynamicMesh3&& MoveMesh);
+
+	// Counts are of live ids; Max...ID() is one past the highest id ever used.
+
+	int VertexCount() const { return VertexRefCounts.GetCount(); }
+	int TriangleCount() const { return TriangleRefCounts.GetCount(); }
+	int EdgeCount() const { return EdgeRefCounts.GetCount(); }
+	int MaxVertexID() const { return VertexRefCounts.GetMaxIndex(); }
+	int MaxTriangleID() const { return TriangleRefCounts.GetMaxIndex(); }
+	int MaxEdgeID() const { return EdgeRefCounts.GetMaxIndex(); }
+	bool IsVertex(int VertexID) const { return VertexRefCounts.IsValid(VertexID); }
+	bool IsTriangle(int TriangleID) const { return TriangleRefCounts.IsValid(TriangleID); }
+	bool IsEdge(int EdgeID) const { return EdgeRefCounts.IsValid(EdgeID); }
+	/** Whether no id was freed. */
+	bool IsCompact() const
+	{
+		return VertexRefCounts.IsDense() && TriangleRefCounts.IsDense() && EdgeRefCounts.IsDense();
+	}
+
+	/** Live ids in ascending order, for range-based loops. */
+	FRefCountVector::IndexEnumerable VertexIndicesItr() const { return VertexRefCounts.Indices(); }
+	FRefCountVector::IndexEnumerable TriangleIndicesItr() const { return TriangleRefCounts.Indices(); }
+	FRefCountVector::IndexEnumerable EdgeIndicesItr() const { return EdgeRefCounts.Indices(); }
+
+	// Queries. An id that is not live is a fault unless said otherwise.
+
+	FVector3d GetVertex(int VertexID) const { return Positions[VertexID]; }
+	/** (0, 1, 0) on a mesh without vertex normals. */
+	FVector3f GetVertexNormal(int VertexID) const;
+	/** White on a mesh without vertex colours. */
+	FVector3f GetVertexColor(int VertexID) const;
+	/** (0, 0) on a mesh without vertex texture coordinates. */
+	FVector2f GetVertexUV(int VertexID) const;
+	/** Vertex ids in the order in which they were appended. */
+	FIndex3i GetTriangle(int TriangleID) const { return Triangles[TriangleID]; }
+	/** Positions of the three corners. */
+	void GetTriVertices(int TriangleID, FVector3d& V0, FVector3d& V1, FVector3d& V2) const;
+	/** Ids of the edges AB, BC and CA. */
+	FIndex3i GetTriEdges(int TriangleID) const;
+	/** 0 on a mesh without triangle groups. */
+	int GetTriangleGroup(int TriangleID) const;
+	/** Edge between two vertices in either order, InvalidID when there is none. */
+	int FindEdge(int VertexA, int VertexB) const;
+	/** Triangle of three vertices in any order, InvalidID when there is none. */
+	int FindTriangle(int A, int B, int C) const;
+	/** Vertices of an edge, the lower id first. */
+	FIndex2i GetEdgeV(int EdgeID) const { return Edges[EdgeID].Vert; }
+	/** Triangles of an edge; the second is InvalidID at a boundary. */
+	FIndex2i GetEdgeT(int EdgeID) const { return Edges[EdgeID].Tri; }
+	bool IsBoundaryEdge(int EdgeID) const { return Edges[EdgeID].Tri.B == InvalidID; }
+
+	/** Box around all vertices, isolated ones included; empty on an empty mesh. One thread is used either way. */
+	FAxisAlignedBox3d GetBounds(bool bParallel = false) const;
+
+	bool HasVertexNormals() const { return VertexNormals.IsSet(); }
+	bool HasVertexColors() const { return VertexColors.IsSet(); }
+	bool HasVertexUVs() const { return VertexUVs.IsSet(); }
+	bool HasTriangleGroups() const { return TriangleGroups.IsSet(); }
+	/** Gives each vertex a normal, a colour or a texture coordinate; nothing happens when there are some already. */
+	void EnableVertexNormals(const FVector3f& InitialNormal);
+	void EnableVertexColors(const FVector3f& InitialColor);
+	void EnableVertexUVs(const FVector2f& InitialUV);
+	/** Gives each triangle a group; nothing happens when there are some already. */
+	void EnableTriangleGroups(int InitialGroupID = 0);
+
+	// Edits.
+
+	/** Drops everything, attributes included: the state of a default mesh. */
+	void Clear();
+
+	/** Id of a new vertex. Normal, colour and texture coordinate count only where the mesh has such an array. */
+	int AppendVertex(const FVertexInfo& VertInfo);
+	int AppendVertex(const FVector3d& Position);
+	/** Copies a live vertex of another mesh. */
+	int AppendVertex(const FDynamicMesh3& SourceMesh, int SourceVertexID);
+
+	/**
+	 * Appends one triangle over existing vertices. It starts unset in every overlay and with material id 0.
+	 *
+	 * @param TriVertices  three different live vertex ids
+	 * @param GroupID      group of the triangle; not kept on a mesh without groups
+	 * @return id of the new triangle; on refusal the mesh is unchanged and the result is the first that applies of
+	 *         InvalidID (a vertex is missing or named twice),
+	 *         NonManifoldID (an edge would get a third triangle) or
+	 *         DuplicateTriangleID (the three vertices form a triangle already, in either winding)
+	 */
+	int AppendTriangle(const FIndex3i& TriVertices, int GroupID = 0);
+	int AppendTriangle(int Vertex0, int Vertex1, int Vertex2, int GroupID = 0)
+	{
+		return AppendTriangle(FIndex3i(Vertex0, Vertex1, Vertex2), GroupID);
+	}
+
+	/**
+	 * Removes a triangle, the edges that only it had, and its overlay elements that nothing else uses.
+	 *
+	 * @param bRemoveIsolatedVertices  whether vertices that are left without a triangle go too
+	 * @return Ok, or Failed_NotATriangle
+	 */
+	EMeshResult RemoveTriangle(int TriangleID, bool bRemoveIsolatedVertices = true);
+
+	void SetVertex(int VertexID, const FVector3d& NewPosition);
+	/** Nothing happens on a mesh without vertex normals. */
+	void SetVertexNormal(int VertexID, const FVector3f& NewNormal);
+	/** Nothing happens on a mesh without groups. */
+	void SetTriangleGroup(int TriangleID, int GroupID);
+
+	// Attributes.
+
+	/** Makes an attribute set with one normal layer and one UV layer; nothing happens when there is one already. */
+	void EnableAttributes();
+	void DiscardAttributes();
+	bool HasAttributes() const { return AttributeSet.IsValid(); }
+	/** The attribute set, null without one. Owned by the mesh. */
+	FDynamicMeshAttributeSet* Attributes() { return AttributeSet.Get(); }
+	const FDynamicMeshAttributeSet* Attributes() const { return AttributeSet.Get(); }
+
+private:
+	/** An edge, and where the lists of edges at its two vertices go on. */
+	struct FEdge
+	{
+		/** The lower id first. */
+		FIndex2i Vert;
+		FIndex2i Tri;
+		/** Next edge at Vert.A and at Vert.B. */
+		FIndex2i Next;
+	};
+
+	/** The list of edges at a vertex. */
+	struct FVertexEdges
+	{
+		int32 First = InvalidID;
+		int32 Num = 0;
+	};
+
+	int AllocateVertex(const FVector3d& Position);
+	void AddEdge(int VertexA, int VertexB, int TriangleID);
+	void RemoveEdge(int EdgeID);
+	void UnlinkEdge(int VertexID, int EdgeID);
+	int& NextEdge(int VertexID, int EdgeID);
+
+	FRefCountVector VertexRefCounts;
+	FRefCountVector TriangleRefCounts;
+	FRefCountVector EdgeRefCounts;
+	/** [MaxVertexID()] */
+	TArray<FVector3d> Positions;
+	TArray<FVertexEdges> VertexEdges;
+	TOptional<TArray<FVector3f>> VertexNormals;
+	TOptional<TArray<FVector3f>> VertexColors;
+	TOptional<TArray<FVector2f>> VertexUVs;
+	/** [MaxTriangleID()] */
+	TArray<FIndex3i> Triangles;
+	TOptional<TArray<int32>> TriangleGroups;
+	/** [MaxEdgeID()] */
+	TArray<FEdge> Edges;
+	TUniquePtr<FDynamicMeshAttributeSet> AttributeSet;
+};
+
+} // namespace UE::Geometry
