@@ -2,7 +2,11 @@
 // What a material is applied to.
 #pragma once
 
+#include "UObject/ObjectMacros.h"
+#include "MaterialDomain.generated.h"
+
 /** What a material is applied to. */
+UENUM()
 enum EMaterialDomain : int
 {
 	/** A surface of a mesh. */

@@ -5,8 +5,10 @@
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
 #include "Engine/EngineBaseTypes.h"
+#include "EngineTypes.generated.h"
 
 /** How the colour of a surface meets what lies behind it. */
+UENUM()
 enum EBlendMode : int
 {
 	/** Covers what lies behind. */
@@ -24,6 +26,7 @@ enum EBlendMode : int
 };
 
 /** The lighting model of a material. */
+UENUM()
 enum EMaterialShadingModel : int
 {
 	MSM_Unlit = 0,
@@ -41,6 +44,7 @@ enum EMaterialShadingModel : int
 };
 
 /** Whether a scene component may move. */
+UENUM()
 namespace EComponentMobility
 {
 enum Type : int
@@ -55,6 +59,7 @@ enum Type : int
 } // namespace EComponentMobility
 
 /** What a world is for. */
+UENUM()
 namespace EWorldType
 {
 enum Type : int
@@ -72,6 +77,7 @@ enum Type : int
 } // namespace EWorldType
 
 /** Why an actor leaves its world. */
+UENUM()
 namespace EEndPlayReason
 {
 enum Type : int
@@ -85,6 +91,7 @@ enum Type : int
 } // namespace EEndPlayReason
 
 /** What happens when a spawned actor would stand inside another. */
+UENUM()
 enum class ESpawnActorCollisionHandlingMethod : uint8
 {
 	Undefined = 0,
@@ -95,6 +102,7 @@ enum class ESpawnActorCollisionHandlingMethod : uint8
 };
 
 /** How a component takes its place when it is attached. */
+UENUM()
 enum class EAttachmentRule : uint8
 {
 	/** Keeps its relative transform. */
@@ -127,26 +135,50 @@ struct FAttachmentTransformRules
 };
 
 /** How render data is made from one level of detail of a skeletal mesh. */
+USTRUCT()
 struct FSkeletalMeshBuildSettings
 {
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bRecomputeNormals : 1 = 1;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bRecomputeTangents : 1 = 1;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bUseMikkTSpace : 1 = 1;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bComputeWeightedNormals : 1 = 0;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bRemoveDegenerates : 1 = 1;
 
 	/** Tangents of 16 instead of 8 bits a component. */
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bUseHighPrecisionTangentBasis : 1 = 0;
 
 	/** Weights of 16 instead of 8 bits. */
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bUseHighPrecisionSkinWeights : 1 = 0;
 
 	/** Texture coordinates of 32 instead of 16 bits. */
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bUseFullPrecisionUVs : 1 = 0;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	uint8 bUseBackwardsCompatibleF16TruncUVs : 1 = 0;
 
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	float ThresholdPosition = 0.00002f;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	float ThresholdTangentNormal = 0.00002f;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	float ThresholdUV = 0.0009765625f;
+
+	UPROPERTY(EditAnywhere, Category = BuildSettings)
 	float MorphThresholdPosition = 0.015f;
 };

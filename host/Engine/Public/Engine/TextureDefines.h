@@ -4,8 +4,10 @@
 
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
+#include "TextureDefines.generated.h"
 
 /** How the smaller mips of a texture are made. */
+UENUM()
 enum TextureMipGenSettings : int
 {
 	TMGS_FromTextureGroup = 0,
@@ -34,6 +36,7 @@ enum TextureMipGenSettings : int
 };
 
 /** What the pixels of a texture mean, which decides how they are compressed. */
+UENUM()
 enum TextureCompressionSettings : int
 {
 	TC_Default = 0,
@@ -57,6 +60,7 @@ enum TextureCompressionSettings : int
 };
 
 /** The group whose settings apply to a texture. */
+UENUM()
 enum TextureGroup : int
 {
 	TEXTUREGROUP_World = 0,
@@ -68,6 +72,7 @@ enum TextureGroup : int
 };
 
 /** How texels are interpolated. */
+UENUM()
 enum TextureFilter : int
 {
 	TF_Nearest = 0,
@@ -79,6 +84,7 @@ enum TextureFilter : int
 };
 
 /** Layout of one source pixel; the numbers follow the order of declaration. */
+UENUM()
 enum ETextureSourceFormat : int
 {
 	TSF_Invalid = 0,

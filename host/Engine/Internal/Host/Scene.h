@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// The scene of a world, for whoever draws it.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "SceneInterface.h"
+
+namespace Host
+{
+/**
+ * Primitives and lights in the order in which they came. Each change of what is to be seen raises a revision, so that a
+ * renderer copies only what is new. Game thread.
+ */
+class FScene : public FSceneInterface
+{
+public:
+	struct FPrimitive
+	{
+		UPrimitiveComponent* Component; // not owned
+		/** Differs from every other value that this scene has given, and changes with the component's mesh or material.
+		 */
+		uint64 Revision;
+		/** As Revision, for the place. */
+		uint64 TransformRevision;
+	};
+
+	explicit FScene(UWorld* InWorld)
+		: World(InWorld)
+	{
+	}
+
+	/** The scene of a world; null after the world's end. */
+	static FScene* Of(const UWorld* World);
+
+	void AddPrimitive(UPrimitiveComponent* Primitive) override;
+	void RemovePrimitive(UPrimitiveComponent* Primitive) override;
+	void UpdatePrimitiveTransform(UPrimitiveComponent* Primitive) override;
+	UWorld* GetWorld() const override { return World; }
+	ERHIFeatureLevel::Type GetFeatureLevel() const override;
+
+	/** The primitive looks different; nothing happens for one that does not stand here. */
+	void RefreshPrimitive(UPrimitiveComponent* Primitive);
+	void AddLight(ULightComponentBase* Light);
+	void RemoveLight(ULightComponentBase* Light);
+	/** A light looks different. */
+	void RefreshLights() { ++Revision; }
+	/** Everything looks different. */
+	void RefreshAll();
+
+	const TArray<FPrimitive>& GetPrimitives() const { return Primitives; }
+	const TArray<ULightComponentBase*>& GetLights() const { return Lights; }
+	/** Rises with every change of any kind. */
+	uint64 GetRevision() const { return Revision; }
+
+private:
+	FPrimitive* Find(UPrimitiveComponent* Primitive);
+
+	UWorld* World; // owns this
+	TArray<FPrimitive> Primitives;
+	TArray<ULightComponentBase*> Lights;
+	uint64 Revision = 0;
+};
+} // namespace Host

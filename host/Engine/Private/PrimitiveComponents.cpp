@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "Components/MeshComponent.h"
+#include "Components/PrimitiveComponent.h"
+
+#include "Engine/World.h"
+#include "Host/Scene.h"
+#include "Materials/MaterialInterface.h"
+
+UMaterialInterface* UPrimitiveComponent::GetMaterial(int32) const
+{
+	return nullptr;
+}
+
+void UPrimitiveComponent::SetMaterial(int32, UMaterialInterface*) {}
+
+void UPrimitiveComponent::GetUsedMaterials(TArray<UMaterialInterface*>&, bool) const {}
+
+void UPrimitiveComponent::AddToScene()
+{
+	GetWorld()->Scene->AddPrimitive(this);
+}
+
+void UPrimitiveComponent::RemoveFromScene()
+{
+	GetWorld()->Scene->RemovePrimitive(this);
+}
+
+void UPrimitiveComponent::RefreshInScene()
+{
+	Host::FScene::Of(GetWorld())->RefreshPrimitive(this);
+}
+
+void UPrimitiveComponent::OnTransformUpdated()
+{
+	Super::OnTransformUpdated();
+	const UWorld* const World = IsRegistered() ? GetWorld() : nullptr;
+	if (World && World->Scene)
+	{
+		World->Scene->UpdatePrimitiveTransform(this);
+	}
+}
+
+UMaterialInterface* UMeshComponent::GetMaterial(int32 ElementIndex) const
+{
+	return OverrideMaterials.IsValidIndex(ElementIndex) ? OverrideMaterials[ElementIndex].Get() : nullptr;
+}
+
+void UMeshComponent::SetMaterial(int32 ElementIndex, UMaterialInterface* Material)
+{
+	if (ElementIndex < 0)
+	{
+		return;
+	}
+	if (ElementIndex >= OverrideMaterials.Num())
+	{
+		OverrideMaterials.SetNum(ElementIndex + 1);
+	}
+	if (OverrideMaterials[ElementIndex] != Material)
+	{
+		OverrideMaterials[ElementIndex] = Material;
+		MarkRenderStateDirty();
+	}
+}
+
+void UMeshComponent::GetUsedMaterials(TArray<UMaterialInterface*>& OutMaterials, bool) const
+{
+	for (int32 Index = 0; Index < GetNumMaterials(); ++Index)
+	{
+		if (UMaterialInterface* const Material = GetMaterial(Index))
+		{
+			OutMaterials.Add(Material);
+		}
+	}
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// A component that is seen.
+#pragma once
+
+#include "Components/SceneComponent.h"
+#include "PrimitiveComponent.generated.h"
+
+class UMaterialInterface;
+
+/** Something to see: it stands in the scene of the world that it is registered with. */
+UCLASS(Abstract)
+class UPrimitiveComponent : public USceneComponent
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(EditAnywhere, Category = "Lighting")
+	bool CastShadow = true;
+
+	virtual int32 GetNumMaterials() const { return 0; }
+	/** Null for an empty slot and outside the slots. */
+	virtual UMaterialInterface* GetMaterial(int32 ElementIndex) const;
+	virtual void SetMaterial(int32 ElementIndex, UMaterialInterface* Material);
+	/** Appends the material of each slot, in slot order; duplicates stay. */
+	virtual void GetUsedMaterials(TArray<UMaterialInterface*>& OutMaterials, bool bGetDebugMaterials = false) const;
+
+protected:
+	bool ShouldCreateRenderState() const override { return true; }
+	void AddToScene() override;
+	void RemoveFromScene() override;
+	void RefreshInScene() override;
+	void OnTransformUpdated() override;
+};
