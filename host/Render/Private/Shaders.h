@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+/** The programs of the graphics device. The drawing library fills in the lines that begin with its own tags. */
+namespace Host::Shaders
+{
+
+/** Every surface, in every pass. */
+extern const char* const SurfaceVertex;
+std::string SurfaceFragment();
+
+/** Backdrop and floor behind everything, at their depth. */
+std::string BackdropFragment();
+
+/** How much of the surroundings a point sees, from a picture of depths; then the same without its noise. */
+extern const char* const OcclusionFragment;
+extern const char* const OcclusionBlurFragment;
+
+// Parts that several programs share.
+extern const char* const FrameDeclarations;
+extern const char* const ToneCurve;
+extern const char* const ShadowLookup;
+extern const char* const SurfaceDeclarations;
+extern const char* const Noise;
+extern const char* const SurfaceDetail;
+extern const char* const Lighting;
+
+} // namespace Host::Shaders

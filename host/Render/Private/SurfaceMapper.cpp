@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "SurfaceMapper.h"
+
+#include "FrameState.h"
+#include "Shaders.h"
+#include "VectorMath.h"
+
+#include <vtkDataObject.h>
+#include <vtkObjectFactory.h>
+#include <vtkOpenGLHelper.h>
+#include <vtkOpenGLVertexBufferObject.h>
+#include <vtkShaderProgram.h>
+#include <vtkTextureObject.h>
+
+#include <cmath>
+
+namespace Host
+{
+namespace
+{
+
+constexpr size_t ChannelCount = size_t(EMaterialChannel::Count);
+constexpr const char* SamplerNames[ChannelCount] = {
+	"uBaseColorMap", "uNormalMap", "uRoughnessMap", "uMetallicMap", "uSpecularMap", "uOpacityMap"};
+
+} // namespace
+
+vtkStandardNewMacro(FSurfaceMapper);
+
+FSurfaceMapper::FSurfaceMapper()
+{
+	// Positions go to the program as they are: it knows nothing of the library's own shift.
+	SetVBOShiftScaleMethod(vtkOpenGLVertexBufferObject::DISABLE_SHIFT_SCALE);
+	ScalarVisibilityOff();
+	const int Points = vtkDataObject::FIELD_ASSOCIATION_POINTS;
+	MapDataArrayToVertexAttribute("normalLocal", "normalLocal", Points);
+	MapDataArrayToVertexAttribute("tangentLocal", "tangentLocal", Points);
+	MapDataArrayToVertexAttribute("uvLocal", "uvLocal", Points);
+}
+
+void FSurfaceMapper::SetMaterial(
+	std::shared_ptr<const FMaterialSnapshot> InMaterial, const FMaterialTextures& InTextures)
+{
+	Material = std::move(InMaterial);
+	Textures = InTextures;
+}
+
+void FSurfaceMapper::SetPlacement(const FPlacement& InPlacement)
+{
+	Placement = InPlacement;
+}
+
+void FSurfaceMapper::RenderPieceStart(vtkRenderer* Renderer, vtkActor* Actor)
+{
+	for (vtkTextureObject* Texture : Textures)
+	{
+		if (Texture)
+		{
+			Texture->Activate();
+		}
+	}
+	Superclass::RenderPieceStart(Renderer, Actor);
+}
+
+void FSurfaceMapper::RenderPieceFinish(vtkRenderer* Renderer, vtkActor* Actor)
+{
+	Superclass::RenderPieceFinish(Renderer, Actor);
+	for (vtkTextureObject* Texture : Textures)
+	{
+		if (Texture)
+		{
+			Texture->Deactivate();
+		}
+	}
+}
+
+void FSurfaceMapper::GetShaderTemplate(std::map<vtkShader::Type, vtkShader*> Shaders, vtkRenderer*, vtkActor*)
+{
+	Shaders[vtkShader::Vertex]->SetSource(Shaders::SurfaceVertex);
+	Shaders[vtkShader::Fragment]->SetSource(Shaders::SurfaceFragment());
+	Shaders[vtkShader::Geometry]->SetSource("");
+}
+
+void FSurfaceMapper::SetMapperShaderParameters(vtkOpenGLHelper& CellBO, vtkRenderer* Renderer, vtkActor* Actor)
+{
+	Superclass::SetMapperShaderParameters(CellBO, Renderer, Actor);
+	vtkShaderProgram& Program = *CellBO.Program;
+	SetFrameUniforms(Program, *Frame);
+	SetMaterialUniforms(Program);
+	SetPlacementUniforms(Program);
+}
+
+void FSurfaceMapper::SetMaterialUniforms(vtkShaderProgram& Program) const
+{
+	const FMaterialSnapshot& M = *Material;
+	float Matrix[ChannelCount][4];
+	float Offset[ChannelCount][4];
+	for (size_t Channel = 0; Channel < ChannelCount; ++Channel)
+	{
+		const FChannelMap& Map = M.Maps[Channel];
+		// Turns beyond a whole one lose their digits in a float's sine; the whole ones change nothing.
+		const double Angle = (double(Map.AngleTurns) - std::floor(double(Map.AngleTurns))) * 6.283185307179586;
+		const float Cosine = float(std::cos(Angle)), Sine = float(std::sin(Angle));
+		const float Rows[4] = {Cosine * Map.UAmount, -Sine * Map.VAmount, Sine * Map.UAmount, Cosine * Map.VAmount};
+		std::copy(Rows, Rows + 4, Matrix[Channel]);
+		const float Rest[4] = {Map.UOffset, Map.VOffset, Map.Intensity, Textures[Channel] ? 1.0f : 0.0f};
+		std::copy(Rest, Rest + 4, Offset[Channel]);
+		const vtkTextureObject* Texture = Textures[Channel] ? Textures[Channel] : Frame->White;
+		Program.SetUniformi(SamplerNames[Channel], const_cast<vtkTextureObject*>(Texture)->GetTextureUnit());
+	}
+	Program.SetUniform4fv("uMapMatrix", int(ChannelCount), Matrix);
+	Program.SetUniform4fv("uMapOffset", int(ChannelCount), Offset);
+
+	const FChannelMap& ColorMap = M.Map(EMaterialChannel::BaseColor);
+	Program.SetUniformi("uBaseColorSRGB", ColorMap.Texture && ColorMap.Texture->bSRGB);
+	Program.SetUniformi("uBlend", int(M.Blend));
+	Program.SetUniformi("uTwoSided", M.bTwoSided);
+	Program.SetUniformi("uOpacityFromAlpha", M.bOpacityFromAlpha);
+	Program.SetUniformf("uClipValue", M.ClipValue);
+	Program.SetUniform4f("uBaseColor", &M.BaseColor.X);
+
+	const FMaterialLook& Look = M.Look;
+	const FFloat3& Under = Look.SubsurfaceColor;
+	const float Scalars[4] = {M.Roughness, M.Metallic, M.Specular, M.Opacity};
+	const float Sheen[4] = {Look.Sheen, Look.SheenRoughness, Look.SheenTint, Look.Translucency};
+	const float Coat[4] = {Look.Clearcoat, Look.ClearcoatRoughness, Look.Anisotropy, Look.Iridescence};
+	const float Subsurface[4] = {Under.X, Under.Y, Under.Z, Look.Subsurface};
+	const float Fibres[4] = {Look.Fur, Look.Knit, Look.Grain, Look.Glitter};
+	const float Body[4] = {Look.Emissive, Look.Transmission, Look.DiffuseRoughness, Look.SpecularScale};
+	Program.SetUniform4f("uScalars", Scalars);
+	Program.SetUniform4f("uSheen", Sheen);
+	Program.SetUniform4f("uCoat", Coat);
+	Program.SetUniform4f("uSubsurface", Subsurface);
+	Program.SetUniform4f("uFibres", Fibres);
+	Program.SetUniform4f("uBody", Body);
+	Program.SetUniformf("uMetallicFloor", Look.MetallicFloor);
+	Program.SetUniformf("uCmPerUV", CmPerUV);
+}
+
+void FSurfaceMapper::SetPlacementUniforms(vtkShaderProgram& Program) const
+{
+	const FFloat3 &X = Placement.AxisX, &Y = Placement.AxisY, &Z = Placement.AxisZ, &O = Placement.Origin;
+	float Model[16] = {X.X, X.Y, X.Z, 0.0f, Y.X, Y.Y, Y.Z, 0.0f, Z.X, Z.Y, Z.Z, 0.0f, O.X, O.Y, O.Z, 1.0f};
+	// The cofactors carry normals, also through a mirror: then the sign of the determinant turns them back.
+	const float Sign = Dot(Cross(X, Y), Z) < 0.0f ? -1.0f : 1.0f;
+	const FFloat3 A = Cross(Y, Z) * Sign, B = Cross(Z, X) * Sign, C = Cross(X, Y) * Sign;
+	float Normal[9] = {A.X, A.Y, A.Z, B.X, B.Y, B.Z, C.X, C.Y, C.Z};
+	Program.SetUniformMatrix4x4("uModel", Model);
+	Program.SetUniformMatrix3x3("uNormalMatrix", Normal);
+}
+
+} // namespace Host
