@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "EditorAssetLibrary.h"
+
+#include "Host/PackageStore.h"
+#include "Misc/PackageName.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+
+namespace
+{
+/** Whether an object counts as an asset: others may refer to it, and it lies in a package that can be saved. */
+bool IsAsset(const UObject& Object)
+{
+	return IsValid(&Object) && Object.HasAnyFlags(RF_Public) && !Object.HasAnyFlags(RF_Transient) &&
+		   Object.GetOutermost() != GetTransientPackage();
+}
+} // namespace
+
+bool UEditorAssetLibrary::DoesAssetExist(const FString& AssetPath)
+{
+	FString PackageName = AssetPath;
+	FString ObjectName;
+	if (AssetPath.Split(TEXT("."), &PackageName, &ObjectName))
+	{
+		// A package holds one asset, which has its name.
+		if (ObjectName != FPackageName::GetShortName(PackageName))
+		{
+			return false;
+		}
+	}
+	else
+	{
+		ObjectName = FPackageName::GetShortName(PackageName);
+	}
+	if (!PackageName.StartsWith(TEXT("/")) || ObjectName.IsEmpty())
+	{
+		return false;
+	}
+	if (UPackage* Package = FindPackage(nullptr, *PackageName))
+	{
+		const UObject* Object = StaticFindObject(UObject::StaticClass(), Package, *ObjectName);
+		if (Object && IsAsset(*Object))
+		{
+			return true;
+		}
+	}
+	Host::IPackageStore* Store = Host::GetPackageStore();
+	return Store && Store->Exists(PackageName);
+}
