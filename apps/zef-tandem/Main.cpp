@@ -89,7 +89,8 @@ int main(int ArgumentCount, char** Arguments)
 	Command.Editor.Plugin = DefaultPlugin();
 	Command.Editor.Project = std::filesystem::current_path() / "ZEFTandemProject";
 	bool bHeadless = false;
-	App.add_flag("--headless", bHeadless, "Work without a display. It is the only way so far, and so also the default.");
+	App.add_flag(
+		"--headless", bHeadless, "Work without a display. It is the only way so far, and so also the default.");
 	App.fallthrough();
 	App.add_option("--project", Command.Editor.Project, "Project folder; made when it is not there")
 		->capture_default_str();

@@ -10,8 +10,8 @@
 class FZEFTandemMiscModule : public IZEFTandemMisc
 {
 public:
-	virtual bool CreateSubstanceMaterial(FString, FString, FTransform3f, FString, FString,
-		TWeakObjectPtr<UMaterialInstance>&) override
+	virtual bool CreateSubstanceMaterial(
+		FString, FString, FTransform3f, FString, FString, TWeakObjectPtr<UMaterialInstance>&) override
 	{
 		return false;
 	}

@@ -12,9 +12,7 @@ class FTabManager;
 class IToolkitHost;
 class UObject;
 
-class FZEFEditorToolkit : public IAssetEditorInstance,
-						  public FBaseToolkit,
-						  public TSharedFromThis<FZEFEditorToolkit>
+class FZEFEditorToolkit : public IAssetEditorInstance, public FBaseToolkit, public TSharedFromThis<FZEFEditorToolkit>
 {
 public:
 	virtual ~FZEFEditorToolkit() override;

@@ -66,8 +66,7 @@ void FZEFTandemEditor::Initialize(const TSharedPtr<IToolkitHost>& /*InitToolkitH
 	TandemTree = SNew(SZEFTandemTree, SharedThis(static_cast<IZEFTandemEditor*>(this)));
 	CreateViewportTabContent();
 
-	FZEFTandemEditorModule& Module =
-		FModuleManager::GetModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
+	FZEFTandemEditorModule& Module = FModuleManager::GetModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
 	Module.GetOnEditorCreated().Broadcast(SharedThis(static_cast<IZEFTandemEditor*>(this)));
 }
 
@@ -95,10 +94,11 @@ void FZEFTandemEditor::BindCommands()
 {
 	FZEFTandemEditorCommands::Register();
 	const FZEFTandemEditorCommands& Commands = FZEFTandemEditorCommands::Get();
-	ToolkitCommands->MapAction(FGenericCommands::Get().Undo, FExecuteAction::CreateLambda([] { GEditor->UndoTransaction(); }));
-	ToolkitCommands->MapAction(FGenericCommands::Get().Redo, FExecuteAction::CreateLambda([] { GEditor->RedoTransaction(); }));
 	ToolkitCommands->MapAction(
-		Commands.FocusCamera, FExecuteAction::CreateSP(this, &FZEFTandemEditor::FocusCamera));
+		FGenericCommands::Get().Undo, FExecuteAction::CreateLambda([] { GEditor->UndoTransaction(); }));
+	ToolkitCommands->MapAction(
+		FGenericCommands::Get().Redo, FExecuteAction::CreateLambda([] { GEditor->RedoTransaction(); }));
+	ToolkitCommands->MapAction(Commands.FocusCamera, FExecuteAction::CreateSP(this, &FZEFTandemEditor::FocusCamera));
 	ToolkitCommands->MapAction(Commands.Tandem, FExecuteAction::CreateSP(this, &FZEFTandemEditor::ToggleTandem),
 		FCanExecuteAction(), FIsActionChecked::CreateSP(this, &FZEFTandemEditor::IsTandemEnabled));
 	ToolkitCommands->MapAction(Commands.SetUnifiedMaterial,

@@ -7,7 +7,7 @@
 #include "EditorUndoClient.h"
 #include "Misc/NotifyHook.h"
 #include "TickableEditorObject.h"
-#include "ZEFTandemCore.h"
+#include "ZefTandemCore.h"
 #include "ZEFTandemRecords.h"
 
 class FEditorViewportTabContent;
@@ -113,7 +113,7 @@ private:
 	TSharedPtr<IDetailsView> DetailsView;
 	TSharedPtr<IZEFTandemTree> TandemTree;
 	TMap<int32, TArray<UPrimitiveComponent*>> ObjectComponents; // by object type; owned by their actors
-	UZEFTandemClientComponent* Client = nullptr; // kept alive by the preview scene
+	UZEFTandemClientComponent* Client = nullptr;				// kept alive by the preview scene
 	TArray<UPrimitiveComponent*> SelectedObjects;
 	TMap<int32, FObjectStats> ObjectStats; // by object type
 	bool bAvatarReceived = false;

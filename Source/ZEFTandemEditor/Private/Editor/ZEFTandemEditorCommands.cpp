@@ -21,9 +21,8 @@ void FZEFTandemEditorCommands::RegisterCommands()
 	UI_COMMAND(Update, "Update", "Update.", EUserInterfaceActionType::Button, FInputChord());
 	UI_COMMAND(ToggleTandemConnectionState, "Toggle Tandem Connection State", "Toggle Tandem Connection State",
 		EUserInterfaceActionType::Button, FInputChord());
-	UI_COMMAND(SetUnifiedMaterial, "Unified Material",
-		"Toggles to receive the garment material as a unified material.", EUserInterfaceActionType::ToggleButton,
-		FInputChord());
+	UI_COMMAND(SetUnifiedMaterial, "Unified Material", "Toggles to receive the garment material as a unified material.",
+		EUserInterfaceActionType::ToggleButton, FInputChord());
 	UI_COMMAND(SetWeld, "Weld", "Weld.", EUserInterfaceActionType::ToggleButton, FInputChord());
 }
 

@@ -195,8 +195,7 @@ void FZEFTandemEditor::FocusCamera()
 	}
 	Box = Box.ExpandBy(FocusMargin);
 
-	FViewportTabContent::ViewportActionFunction Focus =
-		[&Box](FName, TSharedPtr<IEditorViewportLayoutEntity> Entity)
+	FViewportTabContent::ViewportActionFunction Focus = [&Box](FName, TSharedPtr<IEditorViewportLayoutEntity> Entity)
 	{
 		const TSharedPtr<FEditorViewportClient> ViewportClient = Entity->AsAssetEditorViewport()->GetViewportClient();
 		ViewportClient->FocusViewportOnBox(Box, false);

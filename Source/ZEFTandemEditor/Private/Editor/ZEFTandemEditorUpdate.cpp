@@ -49,7 +49,7 @@ void FZEFTandemEditor::RequestUpdate()
 	bGarmentReceived = false;
 	UpdateProgress(FText::FromString(TEXT("Updating")), 1, -1);
 	Client->SendData(
-		ZefTandemCore::TandemMessage::Update, ZefTandemCore::PackingOptions{bWeld, bUnifiedMaterial});
+		ZefTandemCore::TandemMessage::RequestUpdate, ZefTandemCore::PackingOptions{bWeld, bUnifiedMaterial});
 }
 
 void FZEFTandemEditor::ToggleTandem()
@@ -72,12 +72,11 @@ void FZEFTandemEditor::RequestAvailability()
 {
 	if (TandemTree->GetSelectedItems().Num() == 1)
 	{
-		Client->SendData(ZefTandemCore::TandemMessage::Availability);
+		Client->SendData(ZefTandemCore::TandemMessage::RequestAvailability);
 	}
 }
 
-void FZEFTandemEditor::OnSurfaceMeshReceived(
-	const ZefTandemCore::TandemObjectType& Type, const FZEFSurfaceMesh& Mesh)
+void FZEFTandemEditor::OnSurfaceMeshReceived(const ZefTandemCore::TandemObjectType& Type, const FZEFSurfaceMesh& Mesh)
 {
 	RemoveObjectsOfType(ToKey(Type));
 	if (Type == ZefTandemCore::TandemObjectType::Garment)
@@ -165,7 +164,7 @@ bool FZEFTandemEditor::CanSaveAsGeometryCache() const
 {
 	return (IsOneRowSelectedOfType(ToKey(ZefTandemCore::TandemObjectType::Garment)) &&
 			   Availability.bGarmentHasAnimation) ||
-		(IsOneRowSelectedOfType(ToKey(ZefTandemCore::TandemObjectType::Avatar)) && Availability.bAvatarHasAnimation);
+		   (IsOneRowSelectedOfType(ToKey(ZefTandemCore::TandemObjectType::Avatar)) && Availability.bAvatarHasAnimation);
 }
 
 bool FZEFTandemEditor::CanSaveAsAnimSequence() const

@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr float PushInterval = 0.5f; // seconds
+constexpr float PushInterval = 0.5f;  // seconds
 constexpr float ToastDuration = 3.0f; // seconds
 
 TUniquePtr<FZEFTandemProgress>& GetProgress()

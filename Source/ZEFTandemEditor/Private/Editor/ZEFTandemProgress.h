@@ -13,7 +13,7 @@ class SWindow;
 struct FZEFTandemProgress
 {
 	FProgressNotificationHandle Handle; // invalid when stopped
-	FTimerHandle TimerHandle; // shows the state again every half second
+	FTimerHandle TimerHandle;			// shows the state again every half second
 	FText DisplayText;
 	int32 TotalWork = 0; // steps in all; 0 when stopped
 	int32 WorkDone = 0;
@@ -28,7 +28,8 @@ private:
 	void OnTimer();
 };
 
-/** Replaces any running progress by a new one of `TotalWork` steps; with `bShowToast` the text also shows for 3 seconds. */
+/** Replaces any running progress by a new one of `TotalWork` steps; with `bShowToast` the text also shows for 3
+ * seconds. */
 void CreateProgress(int32 TotalWork, const FText& Text, bool bShowToast);
 
 /** Changes what is shown; an empty text and -1 keep the present values. Does nothing while nothing is in progress. */

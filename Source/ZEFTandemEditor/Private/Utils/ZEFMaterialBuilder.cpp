@@ -137,8 +137,7 @@ void OverrideBlendMode(UMaterialInstanceConstant* Instance, EBlendMode BlendMode
 EBlendMode GetTransparentBlendMode()
 {
 	bool bSortedPixels = false;
-	GConfig->GetBool(
-		TEXT("/Script/Engine.RendererSettings"), TEXT("r.OIT.SortedPixels"), bSortedPixels, GEngineIni);
+	GConfig->GetBool(TEXT("/Script/Engine.RendererSettings"), TEXT("r.OIT.SortedPixels"), bSortedPixels, GEngineIni);
 	return bSortedPixels ? BLEND_Translucent : BLEND_Masked;
 }
 

@@ -42,7 +42,7 @@ public:
 
 private:
 	TArray<int32> Newest; // by source vertex
-	TArray<int32> Older; // by soft vertex
+	TArray<int32> Older;  // by soft vertex
 };
 
 TArray<FBoneIndexType> MakeIdentityBoneMap(int32 NumBones)

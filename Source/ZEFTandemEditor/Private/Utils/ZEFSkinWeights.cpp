@@ -31,8 +31,8 @@ FQuantizedInfluences::FQuantizedInfluences(const TArray<FZEFVertexInfluence>& In
 	FirstOfVertex.Reserve(Influences.Num() + 1);
 	FirstOfVertex.Add(0);
 
-	// Where each bone stands in Packed. An entry counts only from the vertex's own first pair on and only while it names
-	// its bone, so the table needs no clearing between vertices.
+	// Where each bone stands in Packed. An entry counts only from the vertex's own first pair on and only while it
+	// names its bone, so the table needs no clearing between vertices.
 	TArray<int32> PlaceOfBone;
 	PlaceOfBone.SetNumZeroed(NumBoneIds);
 	for (const FZEFVertexInfluence& Vertex : Influences)

@@ -24,8 +24,7 @@ bool CreateSubstanceMaterial(FString AssetPath, FString GraphName, UE::Math::TTr
 	{
 		return false;
 	}
-	IZEFTandemMisc& Misc =
-		static_cast<IZEFTandemMisc&>(FModuleManager::Get().LoadModuleChecked(TEXT("ZEFTandemMisc")));
+	IZEFTandemMisc& Misc = static_cast<IZEFTandemMisc&>(FModuleManager::Get().LoadModuleChecked(TEXT("ZEFTandemMisc")));
 	return Misc.CreateSubstanceMaterial(AssetPath, GraphName, UVTransform, PackagePath, Name, OutMaterial);
 }
 

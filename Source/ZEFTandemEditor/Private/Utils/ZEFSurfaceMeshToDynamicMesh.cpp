@@ -61,8 +61,8 @@ void AppendVertices(const FZEFSurface& Surface, FDynamicMesh3& Mesh, const FMesh
 }
 
 /** Appends the triangles of one section; those that the mesh refuses are dropped. */
-void AppendTriangles(const FZEFSection& Section, int32 VertexOffset, int32 MaterialSlot, FDynamicMesh3& Mesh,
-	const FMeshLayers& Layers)
+void AppendTriangles(
+	const FZEFSection& Section, int32 VertexOffset, int32 MaterialSlot, FDynamicMesh3& Mesh, const FMeshLayers& Layers)
 {
 	const int32 NumTriangles = Section.Indices.Num() / 3;
 	for (int32 Triangle = 0; Triangle < NumTriangles; ++Triangle)

@@ -64,7 +64,8 @@ UTexture2D* CreateTextureFromData(UObject* Outer, const FString& Name, EObjectFl
 			break;
 	}
 	TArray64<uint8> Pixels;
-	CopyPixels(Texture, static_cast<int64>(Texture.Width) * Texture.Height * BytesPerPixel, Texture.Format == 0, Pixels);
+	CopyPixels(
+		Texture, static_cast<int64>(Texture.Width) * Texture.Height * BytesPerPixel, Texture.Format == 0, Pixels);
 
 	UTexture2D* const Result = CreateAssetObject<UTexture2D>(Outer, Name, Flags);
 	Result->Source.Init(Texture.Width, Texture.Height, 1, 1, SourceFormat, Pixels.GetData());

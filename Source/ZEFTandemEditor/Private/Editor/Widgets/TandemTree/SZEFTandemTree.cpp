@@ -4,7 +4,7 @@
 #include "Components/PrimitiveComponent.h"
 #include "Editor/IZEFTandemEditor.h"
 #include "UObject/WeakObjectPtrTemplates.h"
-#include "ZEFTandemCore.h"
+#include "ZefTandemCore.h"
 
 namespace
 {
@@ -74,6 +74,6 @@ void SZEFTandemTree::DeselectAll()
 
 void SZEFTandemTree::SelectItemsBy(TFunctionRef<bool(const IZEFTandemTreeItem&)> Predicate)
 {
-	SelectedItems = Items.FilterByPredicate(
-		[&Predicate](const TSharedPtr<IZEFTandemTreeItem>& Item) { return Predicate(*Item); });
+	SelectedItems =
+		Items.FilterByPredicate([&Predicate](const TSharedPtr<IZEFTandemTreeItem>& Item) { return Predicate(*Item); });
 }

@@ -31,7 +31,8 @@ bool IsPreviewBelowSM5()
 }
 
 /** Puts a finished component into the scene as its actor's root. */
-void ShowComponent(FZEFPreviewScene& Scene, AActor* Actor, UPrimitiveComponent* Component, FEditorViewportClient& Client)
+void ShowComponent(
+	FZEFPreviewScene& Scene, AActor* Actor, UPrimitiveComponent* Component, FEditorViewportClient& Client)
 {
 	Actor->AddOwnedComponent(Component);
 	Scene.AddComponent(Component, FTransform::Identity, false);
