@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceTextures.h"
 
-#include <vtk_glew.h>
+#include "OpenGL.h"
 
 #include <vtkOpenGLRenderWindow.h>
 
@@ -24,7 +24,9 @@ vtkSmartPointer<vtkTextureObject> Upload(vtkOpenGLRenderWindow& Window, const FT
 	Object->SetWrapT(vtkTextureObject::Repeat);
 	Object->SetMagnificationFilter(vtkTextureObject::Linear);
 	Object->SetMinificationFilter(vtkTextureObject::LinearMipmapLinear);
-	Object->SetGenerateMipmap(true);
+	// The library neither makes the smaller pictures nor, left alone, lets them be read.
+	constexpr int AllLevels = 16;
+	Object->SetMaxLevel(AllLevels);
 	// Sixteen bits stay sixteen bits on the device. The sRGB curve is taken off in the program, since the same picture
 	// may serve as a colour and as data.
 	Object->SetInternalFormat(bWide ? GL_RGBA16 : GL_RGBA8);
@@ -33,7 +35,13 @@ vtkSmartPointer<vtkTextureObject> Upload(vtkOpenGLRenderWindow& Window, const FT
 	const int Type = bWide ? VTK_UNSIGNED_SHORT : VTK_UNSIGNED_CHAR;
 	void* Pixels = const_cast<uint8_t*>(Texture.Pixels.get());
 	const bool bMade = Object->Create2DFromRaw(unsigned(Texture.Width), unsigned(Texture.Height), 4, Type, Pixels);
-	return bMade ? Object : nullptr;
+	if (!bMade)
+	{
+		return nullptr;
+	}
+	Object->Bind();
+	glGenerateMipmap(GL_TEXTURE_2D);
+	return Object;
 }
 
 } // namespace

@@ -129,10 +129,10 @@ FCameraSnapshot FrameBounds(
 std::vector<FLightSnapshot> StudioLights(const FCameraSnapshot& Camera)
 {
 	return {
-		Lamp(Camera, -42.0f, 48.0f, {2.55f, 2.45f, 2.30f}, 0.42f), // key
-		Lamp(Camera, 58.0f, 18.0f, {0.50f, 0.56f, 0.66f}, 0.60f),  // fill
-		Lamp(Camera, 148.0f, 38.0f, {1.35f, 1.40f, 1.55f}, 0.30f), // rim
-		Lamp(Camera, -155.0f, 26.0f, {0.70f, 0.66f, 0.62f}, 0.30f),
+		Lamp(Camera, -42.0f, 48.0f, {2.50f, 2.40f, 2.24f}, 0.42f), // key
+		Lamp(Camera, 58.0f, 18.0f, {0.42f, 0.48f, 0.58f}, 0.60f),  // fill
+		Lamp(Camera, 148.0f, 38.0f, {2.10f, 2.16f, 2.35f}, 0.30f), // rim
+		Lamp(Camera, -155.0f, 26.0f, {1.20f, 1.12f, 1.04f}, 0.30f),
 	};
 }
 

@@ -10,7 +10,7 @@
 #include "Shaders.h"
 #include "VectorMath.h"
 
-#include <vtk_glew.h>
+#include "OpenGL.h"
 
 #include <vtkCullerCollection.h>
 #include <vtkOpenGLState.h>

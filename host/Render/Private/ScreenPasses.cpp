@@ -4,7 +4,7 @@
 #include "Shaders.h"
 #include "VectorMath.h"
 
-#include <vtk_glew.h>
+#include "OpenGL.h"
 
 #include <vtkObjectFactory.h>
 #include <vtkOpenGLRenderWindow.h>

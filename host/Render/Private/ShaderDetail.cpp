@@ -33,6 +33,10 @@ float valueNoise(vec3 at)
 // Detail that a kind of surface has of itself, finer than any map: stitches, grain and strands. Each fades out where a
 // pixel covers more than it can show.
 const char* const SurfaceDetail = R"glsl(
+const int PatternKnit = 1;
+const int PatternGrain = 2;
+const int PatternFibres = 3;
+
 // Centimetres on the cloth, along the threads.
 vec2 clothAt()
 {
@@ -60,31 +64,37 @@ float stitchHeight(vec2 at)
 
 void addKnit(inout Frame frame, inout Surface surface)
 {
-	const vec2 stitch = vec2(0.62, 0.50);  // cm
+	vec2 stitch = uPattern.y * vec2(1.0, 0.82);
 	vec2 at = clothAt() / stitch;
 	vec2 span = clothSpan(frame) / stitch;
-	float seen = uFibres.y * (1.0 - smoothstep(0.25, 0.7, max(span.x, span.y)));
-	const float step = 0.04;
-	float height = stitchHeight(at);
-	float slopeX = (stitchHeight(at + vec2(step, 0.0)) - stitchHeight(at - vec2(step, 0.0))) / (2.0 * step);
-	float slopeY = (stitchHeight(at + vec2(0.0, step)) - stitchHeight(at - vec2(0.0, step))) / (2.0 * step);
+	float depth = uPattern.z;
+	float seen = depth * (1.0 - smoothstep(0.1, 0.36, max(span.x, span.y)));
+	// Taken over the width of the pixel, differences and mean are the pattern's without what is too fine to be seen.
+	vec2 reach = max(vec2(0.04), 0.5 * span);
+	float left = stitchHeight(at - vec2(reach.x, 0.0));
+	float right = stitchHeight(at + vec2(reach.x, 0.0));
+	float above = stitchHeight(at - vec2(0.0, reach.y));
+	float below = stitchHeight(at + vec2(0.0, reach.y));
+	float height = 0.25 * (left + right + above + below);
+	float slopeX = (right - left) / (2.0 * reach.x);
+	float slopeY = (below - above) / (2.0 * reach.y);
 	vec2 slope = clamp(vec2(slopeX, slopeY), -2.5, 2.5) * 0.42 * seen;
 	frame.normal = normalize(frame.normal - frame.tangent * slope.x - frame.bitangent * slope.y);
-	surface.cavity *= mix(1.0, 0.35 + 0.75 * smoothstep(0.0, 0.75, height), seen);
 	// Far away the stitches only darken the cloth, by as much as they do in the mean.
-	surface.cavity *= mix(mix(1.0, 0.82, uFibres.y), 1.0, seen);
+	surface.cavity *= mix(mix(1.0, 0.82, depth), 0.35 + 0.75 * smoothstep(0.0, 0.75, height), seen);
 }
 
 void addGrain(inout Frame frame, inout Surface surface)
 {
-	vec3 at = vLocal * 5.5;
-	float span = 5.5 * max(length(frame.localDx), length(frame.localDy));
-	float seen = uFibres.z * (1.0 - smoothstep(0.4, 1.2, span));
+	float perCm = 1.0 / uPattern.y;
+	vec3 at = vLocal * perCm;
+	float span = perCm * max(length(frame.localDx), length(frame.localDy));
+	float seen = uPattern.z * (1.0 - smoothstep(0.4, 1.2, span));
 	if (seen <= 0.0)
 	{
 		return;
 	}
-	// Leather's grain: rounded plates between creases, as the distance to the nearest of scattered points gives them.
+	// Rounded plates between creases, from the distances to the two nearest of scattered points.
 	vec3 cell = floor(at);
 	float first = 9.0;
 	float second = 9.0;
@@ -118,39 +128,47 @@ void addGrain(inout Frame frame, inout Surface surface)
 	surface.roughness = clamp(surface.roughness + 0.12 * seen * (1.0 - smoothstep(0.0, 0.3, edge)), 0.0, 1.0);
 }
 
-void addFur(inout Frame frame, inout Surface surface)
+void addFibres(inout Frame frame, inout Surface surface)
 {
+	float depth = uPattern.z;
 	vec2 at = clothAt();
 	vec2 span = clothSpan(frame);
 	// Strands lie along V, waving a little; two sizes of tuft.
+	vec2 fineScale = vec2(1.0, 0.1) / uPattern.y;
+	vec2 tuftScale = vec2(0.17, 0.045) / uPattern.y;
 	float wave = valueNoise(vec3(at * 0.35, 3.0)) - 0.5;
 	vec2 strand = vec2(at.x + 0.9 * wave, at.y);
-	float fine = valueNoise(vec3(strand * vec2(16.0, 1.6), 0.5));
-	float tuft = valueNoise(vec3(strand * vec2(2.6, 0.7), 9.5));
-	float fineSeen = uFibres.x * (1.0 - smoothstep(0.4, 1.3, span.x * 16.0));
-	float tuftSeen = uFibres.x * (1.0 - smoothstep(0.4, 1.3, span.x * 2.6));
-	float slope = (valueNoise(vec3(strand * vec2(16.0, 1.6) + vec2(0.35, 0.0), 0.5)) - fine) * 1.5;
-	float tuftSlope = (valueNoise(vec3(strand * vec2(2.6, 0.7) + vec2(0.3, 0.0), 9.5)) - tuft) * 2.2;
+	float fine = valueNoise(vec3(strand * fineScale, 0.5));
+	float tuft = valueNoise(vec3(strand * tuftScale, 9.5));
+	float fineSeen = depth * (1.0 - smoothstep(0.4, 1.3, span.x * fineScale.x));
+	float tuftSeen = depth * (1.0 - smoothstep(0.4, 1.3, span.x * tuftScale.x));
+	float slope = (valueNoise(vec3(strand * fineScale + vec2(0.35, 0.0), 0.5)) - fine) * 1.5;
+	float tuftSlope = (valueNoise(vec3(strand * tuftScale + vec2(0.3, 0.0), 9.5)) - tuft) * 2.2;
 	frame.normal = normalize(frame.normal - frame.tangent * (slope * fineSeen + tuftSlope * tuftSeen)
-		+ frame.bitangent * 0.25 * uFibres.x);
+		+ frame.bitangent * 0.25 * depth);
 	float shade = mix(0.5, 0.35 + 0.5 * fine + 0.35 * tuft, max(fineSeen, tuftSeen) * 0.9);
-	surface.cavity *= mix(1.0, 0.55 + 0.75 * shade, uFibres.x);
+	surface.cavity *= mix(1.0, 0.55 + 0.75 * shade, depth);
 	surface.baseColor *= mix(vec3(1.0), vec3(0.82, 0.80, 0.78) + 0.4 * tuft, tuftSeen * 0.6);
 }
 
 void addDetail(inout Frame frame, inout Surface surface)
 {
-	if (uFibres.y > 0.0)
+	int kind = int(uPattern.x + 0.5);
+	if (uPattern.z <= 0.0)
+	{
+		return;
+	}
+	if (kind == PatternKnit)
 	{
 		addKnit(frame, surface);
 	}
-	if (uFibres.z > 0.0)
+	else if (kind == PatternGrain)
 	{
 		addGrain(frame, surface);
 	}
-	if (uFibres.x > 0.0)
+	else if (kind == PatternFibres)
 	{
-		addFur(frame, surface);
+		addFibres(frame, surface);
 	}
 }
 )glsl";

@@ -45,8 +45,8 @@ float charlie(float nDotH, float roughness)
 // Share of light from all sides that the sheen returns: little head on, much at the rim.
 float sheenAlbedo(float nDotV, float roughness)
 {
-	float rim = pow(1.0 - nDotV, mix(5.0, 1.8, roughness));
-	return mix(0.03, 0.12, roughness) + mix(0.9, 0.55, roughness) * rim;
+	float rim = pow(1.0 - nDotV, mix(4.5, 1.6, roughness));
+	return mix(0.02, 0.10, roughness) + mix(1.5, 0.75, roughness) * rim;
 }
 
 vec2 environmentAlbedo(float roughness, float nDotV)
@@ -69,7 +69,7 @@ vec3 ambientAt(vec3 normal)
 vec3 environmentAt(vec3 direction, float roughness)
 {
 	float soft = mix(0.12, 1.0, roughness);
-	vec3 room = mix(uGround * 0.75, uSky * 0.9, smoothstep(-soft, soft, direction.z));
+	vec3 room = mix(uGround * 1.1, uSky * 1.35, smoothstep(-soft, soft, direction.z));
 	// A darker band at eye level gives smooth bodies their contours.
 	room *= 1.0 - 0.45 * (1.0 - roughness) * exp(-squared((direction.z - 0.02) / 0.22));
 	vec3 lamps = vec3(0.0);
@@ -92,31 +92,33 @@ vec3 environmentAt(vec3 direction, float roughness)
 	return room + lamps * share;
 }
 
+// Share of each colour that the two faces of the film send back in step; one colour after the other is reinforced as the
+// light falls in flatter.
 vec3 thinFilm(float cosine)
 {
-	// Phase of light between the two faces of a film; one colour after the other is reinforced as the angle flattens.
-	float path = 2.0 * 1.35 * sqrt(1.0 - (1.0 - cosine * cosine) / (1.35 * 1.35));
-	vec3 phase = path * 480.0 / vec3(650.0, 545.0, 440.0);
+	float inside = sqrt(1.0 - (1.0 - cosine * cosine) / squared(max(uFilm.z, 1.0)));
+	vec3 phase = 2.0 * uFilm.z * inside * uFilm.y / vec3(650.0, 545.0, 440.0);
 	return 0.5 + 0.5 * cos(2.0 * Pi * phase + Pi);
 }
 
-// Flashes of small mirrors lying at random in the surface, for the light `towards`.
+// Flashes of small mirrors that lean at random, for light from `towards`.
 vec3 glitterOf(Frame frame, vec3 towards)
 {
 	vec3 flashes = vec3(0.0);
 	float footprint = max(length(frame.localDx), length(frame.localDy));
 	for (int layer = 0; layer < 2; ++layer)
 	{
-		float size = layer == 0 ? 0.16 : 0.42;  // cm
-		size = max(size, footprint * 1.6);
-		size = exp2(ceil(log2(size * 8.0))) / 8.0;  // steps of two keep the mirrors in place while the view moves little
-		vec3 random = hash3(floor(vLocal / size) + float(layer) * 37.0);
-		vec3 tilt = normalize(frame.smoothed + 0.75 * (random * 2.0 - 1.0));
-		float aligned = max(dot(tilt, normalize(towards + frame.view)), 0.0);
-		vec3 tint = mix(vec3(1.0), 0.55 + 0.9 * hash3(floor(vLocal / size) + 11.0), 0.5);
-		flashes += tint * smoothstep(0.93, 0.995, aligned) * (layer == 0 ? 2.2 : 3.2);
+		float size = uGlitter.y * (layer == 0 ? 1.0 : 2.6);
+		// Steps of two keep the mirrors in place while the view moves little.
+		size *= exp2(max(ceil(log2(footprint * 1.6 / size)), 0.0));
+		vec3 cell = floor(vLocal / size);
+		vec3 random = hash3(cell + float(layer) * 37.0);
+		vec3 other = hash3(cell + 11.0);
+		vec3 tilt = normalize(frame.smoothed + 1.5 * uGlitter.w * (random * 2.0 - 1.0));
+		float aligned = max(dot(tilt, normalize(towards + frame.view)), 0.0) * step(1.0 - uGlitter.x, other.x);
+		flashes += (0.55 + 0.9 * other) * smoothstep(0.955, 0.998, aligned) * (layer == 0 ? 2.2 : 3.2);
 	}
-	return flashes;
+	return flashes * uGlitter.z;
 }
 
 vec4 shade(Frame frame, Surface surface)
@@ -126,23 +128,35 @@ vec4 shade(Frame frame, Surface surface)
 	float nDotV = max(dot(N, V), 1e-3);
 	float roughness = clamp(surface.roughness, 0.0, 1.0);
 	float alpha = max(roughness * roughness, 0.0025);
-	float transmission = uBody.y;
-	float irised = uCoat.w;
+	float transmission = uClear.x;
+	float irised = uFilm.x;
 	float scatter = uSubsurface.w;
 	vec3 diffuseColor = surface.baseColor * (1.0 - surface.metallic) * (1.0 - transmission) * (1.0 - 0.55 * irised);
-	vec3 f0 = mix(vec3(0.08 * surface.specular * uBody.w), surface.baseColor, surface.metallic);
+	vec3 f0 = mix(vec3(0.08 * surface.specular), surface.baseColor, surface.metallic);
+	// Threads that lie side by side mirror together, as silk's do.
+	f0 = mix(f0 * (1.0 + 3.0 * abs(uCoat.z)), f0, surface.metallic);
 	if (irised > 0.0)
 	{
 		vec3 film = thinFilm(nDotV);
 		f0 = mix(f0, film * mix(vec3(0.75), surface.baseColor, 0.35), irised * 0.85);
 		diffuseColor *= mix(vec3(1.0), 0.45 + film, irised * 0.6);
 	}
-	vec3 sheenColor = uSheen.x * mix(vec3(1.0), surface.baseColor, uSheen.z) * (1.0 - surface.metallic);
-	float sheenShare = 1.0 - 0.5 * uSheen.x * sheenAlbedo(nDotV, uSheen.y);
+	float sheen = max(uSheen.r, max(uSheen.g, uSheen.b));
+	// Fibres that stand up catch light even in dark cloth: the tint is as much the hue as the colour.
+	float peak = max(surface.baseColor.r, max(surface.baseColor.g, surface.baseColor.b));
+	vec3 tint = mix(surface.baseColor, surface.baseColor / max(peak, 0.02) * sqrt(peak), 0.5);
+	vec3 sheenColor = uSheen.rgb * (uSheenTinted == 1 ? tint : vec3(1.0)) * (1.0 - surface.metallic);
+	// And they swallow what falls in between: a pile is dark where it is looked into.
+	float pile = min(sheen, 1.0);
+	float sheenShare = (1.0 - 0.4 * min(pile * sheenAlbedo(nDotV, uSheen.w), 1.0)) * (1.0 - 0.5 * pile * pile * nDotV * nDotV);
+	float chalk = min(pile * 1.5, 0.7);
 
 	// Tangents follow the bent normal; the roughness differs along and across them.
 	vec3 T = normalize(frame.tangent - N * dot(N, frame.tangent));
 	vec3 B = cross(N, T);
+	float turn = uCoat.w * 2.0 * Pi;
+	T = T * cos(turn) + B * sin(turn);
+	B = cross(N, T);
 	float anisotropy = uCoat.z;
 
 	float noise = pixelNoise(gl_FragCoord.xy);
@@ -170,7 +184,7 @@ vec4 shade(Frame frame, Surface surface)
 		float vDotH = clamp(dot(V, H), 0.0, 1.0);
 
 		// A chalky surface returns light towards its source and so looks flatter.
-		float flat_ = mix(nDotL, pow(nDotL, 0.62) * 0.86, uBody.z);
+		float flat_ = mix(nDotL, pow(nDotL, 0.62) * 0.86, chalk);
 		vec3 body = vec3(flat_);
 		if (scatter > 0.0)
 		{
@@ -178,7 +192,7 @@ vec4 shade(Frame frame, Surface surface)
 			vec3 soft = clamp((vec3(raw) + reach) / (1.0 + reach), 0.0, 1.0);
 			body = mix(body, soft * soft * 1.05, scatter);
 		}
-		float through = uSheen.w * clamp(-raw, 0.0, 1.0) * 0.8;
+		vec3 through = scatter * uSubsurface.rgb * clamp(-raw, 0.0, 1.0) * 0.4;
 		diffuse += light * (body + through) / Pi;
 
 		if (raw > -wrap)
@@ -193,14 +207,14 @@ vec4 shade(Frame frame, Surface surface)
 			share = max(share, abs(anisotropy) * 0.8);
 			float lobe = ggx(nDotH, dot(T, H), dot(B, H), alongT, alongB) * smithVisibility(nDotV, max(nDotL, 1e-3), wide);
 			specular += light * nDotL * schlick(f0, vDotH) * lobe * dim * share;
-			if (uSheen.x > 0.0)
+			if (sheen > 0.0)
 			{
-				float sheen = charlie(nDotH, uSheen.y) / (4.0 * (nDotL + nDotV - nDotL * nDotV) + 1e-4);
-				specular += light * nDotL * sheenColor * sheen;
+				float fibres = charlie(nDotH, uSheen.w) / (4.0 * (nDotL + nDotV - nDotL * nDotV) + 1e-4);
+				specular += light * nDotL * sheenColor * fibres;
 			}
-			if (uFibres.w > 0.0)
+			if (uGlitter.x > 0.0)
 			{
-				specular += light * uFibres.w * glitterOf(frame, L) * smoothstep(-0.1, 0.3, raw)
+				specular += light * glitterOf(frame, L) * smoothstep(-0.1, 0.3, raw)
 					* mix(vec3(1.0), surface.baseColor + 0.25, 0.5);
 			}
 		}
@@ -215,7 +229,7 @@ vec4 shade(Frame frame, Surface surface)
 	// Between bright walls light bounces on: dark corners of bright things are less dark and take on their colour.
 	vec3 openColor = vec3(open);
 	openColor = max(openColor, openColor * (1.0 + (1.0 - openColor) * (0.2 + 0.8 * surface.baseColor)));
-	diffuse += skyLight * openColor * (1.0 + 0.4 * uSheen.w);
+	diffuse += skyLight * openColor;
 	diffuse *= diffuseColor * cavity * sheenShare;
 
 	float glossOpen = clamp(pow(nDotV + open, exp2(-16.0 * roughness - 1.0)) - 1.0 + open, 0.0, 1.0);
@@ -227,10 +241,10 @@ vec4 shade(Frame frame, Surface surface)
 	vec3 mirrored = environmentAt(reflect(-V, bent), roughness);
 	vec3 gloss = mirrored * (f0 * albedo.x + vec3(albedo.y) * clamp(f0 * 25.0, 0.0, 1.0)) * glossOpen;
 	specular += gloss * cavity;
-	specular += around * open * sheenColor * sheenAlbedo(nDotV, uSheen.y) * cavity;
-	if (uFibres.w > 0.0)
+	specular += around * open * sheenColor * sheenAlbedo(nDotV, uSheen.w) * cavity;
+	if (uGlitter.x > 0.0)
 	{
-		specular += uFibres.w * 0.35 * glitterOf(frame, reflect(-V, frame.smoothed));
+		specular += 0.35 * glitterOf(frame, reflect(-V, frame.smoothed));
 	}
 
 	vec3 color = diffuse;
@@ -238,10 +252,10 @@ vec4 shade(Frame frame, Surface surface)
 	{
 		// A cut body: light enters, is bent a little differently for each colour and is thrown back by far facets.
 		vec3 inside = vec3(0.0);
-		vec3 facet = normalize(N + 0.35 * (hash3(floor(N * 6.0)) - 0.5));
+		vec3 facet = normalize(N + 0.5 * sin(N.yzx * 7.0 + vec3(0.0, 2.0, 4.0)) * cos(N.zxy * 5.0));
 		for (int i = 0; i < 3; ++i)
 		{
-			vec3 in_ = refract(-V, N, 1.0 / (1.44 + 0.05 * float(i)));
+			vec3 in_ = refract(-V, N, 1.0 / max(uClear.y + 0.04 * float(i - 1), 1.0));
 			vec3 back = reflect(in_, facet);
 			float seen = dot(environmentAt(in_, roughness), vec3(0.34)) * 0.75
 				+ dot(environmentAt(normalize(back), roughness), vec3(0.34)) * 0.55;
@@ -272,15 +286,15 @@ vec4 shade(Frame frame, Surface surface)
 		}
 	}
 
-	if (uBody.x > 0.0)
+	if (uFilm.w > 0.0)
 	{
-		color = mix(color, vec3(0.0), 0.6) + surface.baseColor * uBody.x * mix(0.72, 1.0, nDotV);
+		color = color * 0.3 + surface.baseColor * uFilm.w * mix(0.35, 1.0, nDotV * nDotV);
 	}
 
 	// A highlight lies on the surface whether or not the body lets light through: it raises the opacity by its share.
-	float body = surface.opacity;
+	float body = surface.opacity * (1.0 - 0.55 * transmission);
 	float bright = clamp(max(specular.r, max(specular.g, specular.b)), 0.0, 1.0);
-	float alphaOut = uBlend == BlendTranslucent ? 1.0 - (1.0 - body) * (1.0 - bright * smoothstep(0.0, 0.05, body)) : 1.0;
+	float alphaOut = uBlend == BlendTranslucent ? 1.0 - (1.0 - body) * (1.0 - bright * smoothstep(0.0, 0.05, surface.opacity)) : 1.0;
 	vec3 colorOut = uBlend == BlendTranslucent ? (color * body + specular) / max(alphaOut, 1e-3) : color + specular;
 	return vec4(colorOut, alphaOut);
 }

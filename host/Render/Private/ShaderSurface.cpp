@@ -70,12 +70,14 @@ uniform sampler2D uRoughnessMap;
 uniform sampler2D uMetallicMap;
 uniform sampler2D uSpecularMap;
 uniform sampler2D uOpacityMap;
-uniform vec4 uSheen;          // strength, roughness, tint, translucency
-uniform vec4 uCoat;           // clearcoat, its roughness, anisotropy, iridescence
+uniform vec4 uSheen;          // colour, roughness
+uniform int uSheenTinted;
+uniform vec4 uCoat;           // clearcoat, its roughness, anisotropy, its direction in turns
+uniform vec4 uFilm;           // iridescence, thickness in nanometres, index of refraction, emission
 uniform vec4 uSubsurface;     // colour, strength
-uniform vec4 uFibres;         // fur, knit, grain, glitter
-uniform vec4 uBody;           // emissive, transmission, diffuse roughness, specular scale
-uniform float uMetallicFloor;
+uniform vec4 uGlitter;        // share of cells, their size in cm, brightness, lean
+uniform vec4 uPattern;        // kind, size of a repetition in cm, depth
+uniform vec2 uClear;          // transmission, index of refraction
 uniform float uCmPerUV;       // mean length of one unit of the texture coordinates; 0 without coordinates
 
 struct Frame
@@ -119,9 +121,9 @@ float dataAt(sampler2D map, int channel, float plain, Frame frame)
 {
 	if (!hasMap(channel))
 	{
-		return plain;
+		return clamp(plain, 0.0, 1.0);
 	}
-	return clamp(mix(plain, mapAt(map, channel, frame).r, uMapOffset[channel].z), 0.0, 1.0);
+	return clamp(mapAt(map, channel, frame).r * uMapOffset[channel].z, 0.0, 1.0);
 }
 
 float opacityAt(Frame frame)
@@ -228,10 +230,10 @@ void main()
 	{
 		vec3 texel = mapAt(uBaseColorMap, ChannelBaseColor, frame).rgb;
 		texel = uBaseColorSRGB == 1 ? decoded(texel) : texel;
-		surface.baseColor *= mix(vec3(1.0), texel, uMapOffset[ChannelBaseColor].z);
+		surface.baseColor *= texel * uMapOffset[ChannelBaseColor].z;
 	}
 	surface.roughness = dataAt(uRoughnessMap, ChannelRoughness, uScalars.x, frame);
-	surface.metallic = mix(uMetallicFloor, 1.0, dataAt(uMetallicMap, ChannelMetallic, uScalars.y, frame));
+	surface.metallic = dataAt(uMetallicMap, ChannelMetallic, uScalars.y, frame);
 	surface.specular = dataAt(uSpecularMap, ChannelSpecular, uScalars.z, frame);
 	surface.cavity = 1.0;
 	if (hasMap(ChannelNormal))

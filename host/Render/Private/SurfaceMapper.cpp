@@ -12,6 +12,7 @@
 #include <vtkShaderProgram.h>
 #include <vtkTextureObject.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Host
@@ -19,7 +20,52 @@ namespace Host
 namespace
 {
 
-constexpr size_t ChannelCount = size_t(EMaterialChannel::Count);
+/** A repetition's size on the surface, kept within what it is in life; the typical size where the surface has no scale.
+ */
+float PatternCm(float CmPerUV, float Scale, float Smallest, float Largest)
+{
+	const float Wanted = CmPerUV > 0.0f && Scale > 0.0f ? CmPerUV / Scale : std::sqrt(Smallest * Largest);
+	return std::clamp(Wanted, Smallest, Largest);
+}
+
+void SetLookUniforms(vtkShaderProgram& Program, const FSurfaceLook& Look, float CmPerUV)
+{
+	float Smallest = 0.1f, Largest = 0.1f;
+	switch (Look.Pattern)
+	{
+		case ESurfacePattern::Knit:
+			Smallest = 0.45f, Largest = 0.9f;
+			break;
+		case ESurfacePattern::Grain:
+			Smallest = 0.15f, Largest = 0.3f;
+			break;
+		case ESurfacePattern::Fibres:
+			Smallest = 0.05f, Largest = 0.12f;
+			break;
+		case ESurfacePattern::None:
+			break;
+	}
+	const FFloat3 &Sheen = Look.SheenColor, &Under = Look.SubsurfaceColor;
+	const float SheenValues[4] = {Sheen.X, Sheen.Y, Sheen.Z, Look.SheenRoughness};
+	const float Coat[4] = {Look.Clearcoat, Look.ClearcoatRoughness, Look.Anisotropy, Look.AnisotropyAngle};
+	const float Film[4] = {Look.Iridescence, Look.FilmThickness, Look.FilmIndex, Look.Emission};
+	const float Subsurface[4] = {Under.X, Under.Y, Under.Z, Look.Subsurface};
+	const float Glitter[4] = {Look.GlitterDensity, PatternCm(CmPerUV, Look.GlitterScale, 0.08f, 0.22f),
+		Look.GlitterIntensity, Look.GlitterSpread};
+	const float Pattern[4] = {
+		float(Look.Pattern), PatternCm(CmPerUV, Look.PatternScale, Smallest, Largest), Look.PatternDepth, 0.0f};
+	const float Clear[2] = {Look.Transmission, Look.TransmissionIndex};
+	Program.SetUniform4f("uSheen", SheenValues);
+	Program.SetUniformi("uSheenTinted", Look.bSheenTinted);
+	Program.SetUniform4f("uCoat", Coat);
+	Program.SetUniform4f("uFilm", Film);
+	Program.SetUniform4f("uSubsurface", Subsurface);
+	Program.SetUniform4f("uGlitter", Glitter);
+	Program.SetUniform4f("uPattern", Pattern);
+	Program.SetUniform2f("uClear", Clear);
+}
+
+constexpr size_t ChannelCount = size_t(ESurfaceChannel::Count);
 constexpr const char* SamplerNames[ChannelCount] = {
 	"uBaseColorMap", "uNormalMap", "uRoughnessMap", "uMetallicMap", "uSpecularMap", "uOpacityMap"};
 
@@ -111,7 +157,7 @@ void FSurfaceMapper::SetMaterialUniforms(vtkShaderProgram& Program) const
 	Program.SetUniform4fv("uMapMatrix", int(ChannelCount), Matrix);
 	Program.SetUniform4fv("uMapOffset", int(ChannelCount), Offset);
 
-	const FChannelMap& ColorMap = M.Map(EMaterialChannel::BaseColor);
+	const FChannelMap& ColorMap = M.Map(ESurfaceChannel::BaseColor);
 	Program.SetUniformi("uBaseColorSRGB", ColorMap.Texture && ColorMap.Texture->bSRGB);
 	Program.SetUniformi("uBlend", int(M.Blend));
 	Program.SetUniformi("uTwoSided", M.bTwoSided);
@@ -119,21 +165,9 @@ void FSurfaceMapper::SetMaterialUniforms(vtkShaderProgram& Program) const
 	Program.SetUniformf("uClipValue", M.ClipValue);
 	Program.SetUniform4f("uBaseColor", &M.BaseColor.X);
 
-	const FMaterialLook& Look = M.Look;
-	const FFloat3& Under = Look.SubsurfaceColor;
 	const float Scalars[4] = {M.Roughness, M.Metallic, M.Specular, M.Opacity};
-	const float Sheen[4] = {Look.Sheen, Look.SheenRoughness, Look.SheenTint, Look.Translucency};
-	const float Coat[4] = {Look.Clearcoat, Look.ClearcoatRoughness, Look.Anisotropy, Look.Iridescence};
-	const float Subsurface[4] = {Under.X, Under.Y, Under.Z, Look.Subsurface};
-	const float Fibres[4] = {Look.Fur, Look.Knit, Look.Grain, Look.Glitter};
-	const float Body[4] = {Look.Emissive, Look.Transmission, Look.DiffuseRoughness, Look.SpecularScale};
 	Program.SetUniform4f("uScalars", Scalars);
-	Program.SetUniform4f("uSheen", Sheen);
-	Program.SetUniform4f("uCoat", Coat);
-	Program.SetUniform4f("uSubsurface", Subsurface);
-	Program.SetUniform4f("uFibres", Fibres);
-	Program.SetUniform4f("uBody", Body);
-	Program.SetUniformf("uMetallicFloor", Look.MetallicFloor);
+	SetLookUniforms(Program, M.Look, CmPerUV);
 	Program.SetUniformf("uCmPerUV", CmPerUV);
 }
 

@@ -15,7 +15,7 @@ namespace Host
 struct FFrameState;
 
 /** Textures of a material on the device, by channel; null where it has none. Not owned. */
-using FMaterialTextures = std::array<vtkTextureObject*, size_t(EMaterialChannel::Count)>;
+using FMaterialTextures = std::array<vtkTextureObject*, size_t(ESurfaceChannel::Count)>;
 
 /** Draws the triangles of one slot with the surface program in place of the drawing library's own. */
 class FSurfaceMapper : public vtkOpenGLPolyDataMapper

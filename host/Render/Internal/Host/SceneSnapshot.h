@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Host/Floats.h"
-#include "Host/MaterialLook.h"
+#include "Host/SurfaceLook.h"
 
 #include <cstdint>
 #include <memory>
@@ -48,13 +48,13 @@ struct FChannelMap
 	float UAmount = 1.0f, VAmount = 1.0f;
 	float UOffset = 0.0f, VOffset = 0.0f;
 	/**
-	 * How much the map counts. Base colour: 0 leaves the plain colour, 1 multiplies it with the map. Normal: scales the
-	 * slope. Roughness, metallic, specular: 0 is the plain value, 1 the map. Opacity: not read, the map multiplies.
+	 * Factor on the texel, which multiplies the plain base colour and stands in for the plain roughness, metallic or
+	 * specular. Of a normal map, factor on the slope: 0 is flat. Not read for opacity, whose texel multiplies.
 	 */
 	float Intensity = 1.0f;
 };
 
-enum class EMaterialChannel : uint8_t
+enum class ESurfaceChannel : uint8_t
 {
 	BaseColor,
 	Normal,
@@ -87,11 +87,11 @@ struct FMaterialSnapshot
 	float ClipValue = 0.3333f;
 	/** False: the side that the normals turn away from is not drawn. */
 	bool bTwoSided = true;
-	FChannelMap Maps[size_t(EMaterialChannel::Count)];
-	FMaterialLook Look;
+	FChannelMap Maps[size_t(ESurfaceChannel::Count)];
+	FSurfaceLook Look;
 
-	FChannelMap& Map(EMaterialChannel Channel) { return Maps[size_t(Channel)]; }
-	const FChannelMap& Map(EMaterialChannel Channel) const { return Maps[size_t(Channel)]; }
+	FChannelMap& Map(ESurfaceChannel Channel) { return Maps[size_t(Channel)]; }
+	const FChannelMap& Map(ESurfaceChannel Channel) const { return Maps[size_t(Channel)]; }
 };
 
 /** The triangles of one material slot. */
@@ -139,8 +139,8 @@ struct FLightSnapshot
 /** What surrounds the scene: light from all sides, the backdrop and the floor. Colours are linear. */
 struct FSurroundings
 {
-	FFloat3 Sky{0.62f, 0.66f, 0.74f};
-	FFloat3 Ground{0.34f, 0.32f, 0.30f};
+	FFloat3 Sky{0.36f, 0.38f, 0.42f};
+	FFloat3 Ground{0.17f, 0.16f, 0.15f};
 	FFloat3 BackdropTop{0.30f, 0.33f, 0.38f};
 	FFloat3 BackdropBottom{0.70f, 0.71f, 0.73f};
 	bool bFloor = true;
