@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+#include "AdvancedPreviewScene.h"
+
+#include "AssetViewerSettings.h"
+#include "Components/DirectionalLightComponent.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/UnrealType.h"
+#include "UnrealClient.h"
+
+namespace
+{
+constexpr float DegreesPerPixel = 0.25f;
+} // namespace
+
+UAssetViewerSettings::UAssetViewerSettings(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	FPreviewSceneProfile Profile;
+	Profile.ProfileName = TEXT("Profile_0");
+	Profiles.Add(Profile);
+}
+
+UAssetViewerSettings* UAssetViewerSettings::Get()
+{
+	return GetMutableDefault<UAssetViewerSettings>();
+}
+
+void UAssetViewerSettings::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	NotifyChanged(PropertyChangedEvent.GetPropertyName());
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+}
+
+void UAssetViewerSettings::NotifyChanged(const FName& PropertyName)
+{
+	if (Profiles.Num() != KnownProfiles)
+	{
+		KnownProfiles = Profiles.Num();
+		ProfileAddRemovedEvent.Broadcast();
+	}
+	SettingsChangedEvent.Broadcast(PropertyName);
+}
+
+FAdvancedPreviewScene::FAdvancedPreviewScene(ConstructionValues CVS, float InFloorOffset)
+	: FPreviewScene(CVS)
+	, FloorOffset(InFloorOffset)
+{
+	ApplyProfile();
+	UAssetViewerSettings::Get()->OnAssetViewerSettingsChanged().AddRaw(this, &FAdvancedPreviewScene::OnSettingsChanged);
+}
+
+FAdvancedPreviewScene::~FAdvancedPreviewScene()
+{
+	UAssetViewerSettings::Get()->OnAssetViewerSettingsChanged().RemoveAll(this);
+}
+
+const bool FAdvancedPreviewScene::HandleViewportInput(
+	FViewport* InViewport, FInputDeviceId, FKey Key, float Delta, float, int32, bool)
+{
+	if (!InViewport || Key != EKeys::MouseX)
+	{
+		return false;
+	}
+	if (InViewport->KeyState(EKeys::L))
+	{
+		FRotator Direction = GetLightDirection();
+		Direction.Yaw += Delta * DegreesPerPixel;
+		SetLightDirection(Direction);
+		return true;
+	}
+	if (InViewport->KeyState(EKeys::K))
+	{
+		SkyRotation = static_cast<float>(FRotator::ClampAxis(SkyRotation + Delta * DegreesPerPixel));
+		return true;
+	}
+	return false;
+}
+
+const bool FAdvancedPreviewScene::HandleInputKey(const FInputKeyEventArgs& EventArgs)
+{
+	UAssetViewerSettings* const Settings = UAssetViewerSettings::Get();
+	if (EventArgs.Event != IE_Pressed || !Settings->Profiles.IsValidIndex(CurrentProfileIndex))
+	{
+		return false;
+	}
+	FPreviewSceneProfile& Profile = Settings->Profiles[CurrentProfileIndex];
+	if (EventArgs.Key == EKeys::I)
+	{
+		Profile.bShowEnvironment = !Profile.bShowEnvironment;
+		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bShowEnvironment));
+		return true;
+	}
+	if (EventArgs.Key == EKeys::O)
+	{
+		Profile.bShowFloor = !Profile.bShowFloor;
+		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bShowFloor));
+		return true;
+	}
+	if (EventArgs.Key == EKeys::P)
+	{
+		Profile.bPostProcessingEnabled = !Profile.bPostProcessingEnabled;
+		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bPostProcessingEnabled));
+		return true;
+	}
+	return false;
+}
+
+void FAdvancedPreviewScene::SetProfileIndex(const int32 InProfileIndex)
+{
+	if (UAssetViewerSettings::Get()->Profiles.IsValidIndex(InProfileIndex))
+	{
+		CurrentProfileIndex = InProfileIndex;
+		ApplyProfile();
+	}
+}
+
+void FAdvancedPreviewScene::Tick(float DeltaTime)
+{
+	const TArray<FPreviewSceneProfile>& Profiles = UAssetViewerSettings::Get()->Profiles;
+	if (Profiles.IsValidIndex(CurrentProfileIndex) && Profiles[CurrentProfileIndex].bRotateLightingRig)
+	{
+		FRotator Direction = GetLightDirection();
+		Direction.Yaw += Profiles[CurrentProfileIndex].RotationSpeed * DeltaTime;
+		SetLightDirection(Direction);
+	}
+}
+
+TStatId FAdvancedPreviewScene::GetStatId() const
+{
+	RETURN_QUICK_DECLARE_CYCLE_STAT(FAdvancedPreviewScene, STATGROUP_Tickables);
+}
+
+void FAdvancedPreviewScene::ApplyProfile()
+{
+	const TArray<FPreviewSceneProfile>& Profiles = UAssetViewerSettings::Get()->Profiles;
+	if (!Profiles.IsValidIndex(CurrentProfileIndex))
+	{
+		return;
+	}
+	const FPreviewSceneProfile& Profile = Profiles[CurrentProfileIndex];
+	SetLightDirection(Profile.DirectionalLightRotation);
+	SetLightBrightness(Profile.DirectionalLightIntensity);
+	SetSkyBrightness(Profile.bUseSkyLighting ? Profile.SkyLightIntensity : 0.0f);
+}
+
+void FAdvancedPreviewScene::OnSettingsChanged(const FName&)
+{
+	ApplyProfile();
+}
+
+IMPLEMENT_MODULE(FDefaultModuleImpl, AdvancedPreviewScene)

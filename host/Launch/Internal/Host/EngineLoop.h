@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// Brings the whole engine layer up, moves it on, and takes it down.
+#pragma once
+
+#include "CoreMinimal.h"
+
+namespace Host
+{
+struct FEngineLoopOptions
+{
+	/** Folder with Config/, Content/ and Saved/, the last of which is written to. Empty: nothing is read or kept. */
+	FString ProjectDir;
+	/** Folder of a .uplugin file, or of folders of them; all that are found are enabled. Empty for none. */
+	FString PluginDir;
+	/** Loaded at the end of the start, in this order. */
+	TArray<FName> Modules;
+};
+
+/**
+ * One engine: configuration, content mounts, commands, the editor object, modules. One at a time in a process; another
+ * one can follow. Game thread.
+ */
+class FEngineLoop
+{
+public:
+	FEngineLoop() = default;
+	/** Takes a running engine down. */
+	~FEngineLoop();
+
+	FEngineLoop(const FEngineLoop&) = delete;
+	FEngineLoop& operator=(const FEngineLoop&) = delete;
+
+	/**
+	 * Brings everything up. `/Game` is the project's Content folder, `/Name` that of the plug-in of that name.
+	 *
+	 * @param OutError  one line that says what is wrong
+	 * @return false, with everything down again, when the plug-in folder holds no plug-in or a module is missing
+	 */
+	bool Init(const FEngineLoopOptions& Options, FString& OutError);
+	bool IsRunning() const { return bRunning; }
+
+	/**
+	 * One frame: the clock advances, timers, editor objects and viewports tick, viewports that are out of date are drawn,
+	 * notifications end, and garbage is collected when it was asked for or a minute has passed since the last time.
+	 *
+	 * @param DeltaSeconds  at least 0
+	 */
+	void Tick(double DeltaSeconds);
+
+	/**
+	 * Shuts the modules down, ends the editor and the mounts and collects everything. Open editors of the plug-in must be
+	 * closed before. Nothing happens when no engine runs.
+	 */
+	void Exit();
+
+private:
+	bool MountContentFolders(const FEngineLoopOptions& Options, FString& OutError);
+
+	TArray<FString> MountedRoots;
+	double LastCollection = 0.0; // on the application's clock
+	bool bRunning = false;
+};
+} // namespace Host

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "Host/EngineLoop.h"
+
+#include "Editor.h"
+#include "Framework/Commands/GenericCommands.h"
+#include "Framework/Notifications/NotificationManager.h"
+#include "Host/Clock.h"
+#include "Host/ConfigDirs.h"
+#include "Host/Modules.h"
+#include "Host/Notifications.h"
+#include "Host/PackageStore.h"
+#include "Host/Plugins.h"
+#include "Interfaces/IPluginManager.h"
+#include "Logging/LogMacros.h"
+#include "Misc/ConfigCacheIni.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/GarbageCollection.h"
+#include "UObject/Package.h"
+
+DEFINE_LOG_CATEGORY_STATIC(LogInit, Log, All);
+
+namespace Host
+{
+namespace
+{
+constexpr double SecondsBetweenCollections = 60.0;
+} // namespace
+
+FEngineLoop::~FEngineLoop()
+{
+	Exit();
+}
+
+bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
+{
+	checkf(!GEditor, TEXT("An engine runs already"));
+	bRunning = true;
+	if (Options.ProjectDir.IsEmpty())
+	{
+		SetConfigDirs(FString(), FString(), FString());
+	}
+	else
+	{
+		SetConfigDirs(FString(), Options.ProjectDir / TEXT("Config"), Options.ProjectDir / TEXT("Saved/Config"));
+	}
+	if (!MountContentFolders(Options, OutError))
+	{
+		Exit();
+		return false;
+	}
+	FGenericCommands::Register();
+
+	UEditorEngine* const Editor = NewObject<UEditorEngine>(GetTransientPackage(), NAME_None, RF_Transient);
+	Editor->AddToRoot();
+	GEngine = Editor;
+	GEditor = Editor;
+	Editor->InitEditor();
+	LastCollection = AppTime();
+
+	for (const FName Module : Options.Modules)
+	{
+		if (!FModuleManager::Get().LoadModule(Module))
+		{
+			OutError = FString::Printf(TEXT("The module '%s' is not part of this program"), *Module.ToString());
+			Exit();
+			return false;
+		}
+	}
+	UE_LOG(LogInit, Log, TEXT("The engine is up"));
+	return true;
+}
+
+bool FEngineLoop::MountContentFolders(const FEngineLoopOptions& Options, FString& OutError)
+{
+	const auto Mount = [this](const FString& Root, const FString& Directory)
+	{
+		MountContent(Root, Directory);
+		MountedRoots.Add(Root);
+	};
+	if (!Options.ProjectDir.IsEmpty())
+	{
+		Mount(TEXT("/Game/"), Options.ProjectDir / TEXT("Content"));
+	}
+	if (Options.PluginDir.IsEmpty())
+	{
+		return true;
+	}
+	if (AddPluginSearchPath(Options.PluginDir) == 0)
+	{
+		OutError = FString::Printf(TEXT("There is no plug-in in the folder '%s'"), *Options.PluginDir);
+		return false;
+	}
+	for (const TSharedRef<IPlugin>& Plugin : IPluginManager::Get().GetDiscoveredPlugins())
+	{
+		SetPluginEnabled(Plugin->GetName(), true);
+		Mount(Plugin->GetMountedAssetPath(), Plugin->GetContentDir());
+	}
+	return true;
+}
+
+void FEngineLoop::Tick(double DeltaSeconds)
+{
+	AdvanceTime(DeltaSeconds);
+	GEditor->Tick(static_cast<float>(DeltaSeconds), false);
+	FSlateNotificationManager::Get().Tick();
+	if (GEngine->IsGarbageCollectionForced() || AppTime() - LastCollection >= SecondsBetweenCollections)
+	{
+		GEngine->ClearForcedGarbageCollection();
+		LastCollection = AppTime();
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	}
+}
+
+void FEngineLoop::Exit()
+{
+	if (!bRunning)
+	{
+		return;
+	}
+	bRunning = false;
+	ShutdownModules();
+	if (GEditor)
+	{
+		GEditor->PreExit();
+		GEditor->RemoveFromRoot();
+		GEditor = nullptr;
+		GEngine = nullptr;
+	}
+	ResetNotifications();
+	CollectGarbage(RF_NoFlags);
+	for (const FString& Root : MountedRoots)
+	{
+		UnmountContent(Root);
+	}
+	MountedRoots.Empty();
+	ForgetPlugins();
+	if (GConfig)
+	{
+		GConfig->Flush(false);
+	}
+	SetConfigDirs(FString(), FString(), FString());
+}
+} // namespace Host
