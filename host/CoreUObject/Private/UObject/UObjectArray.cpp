@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "UObject/UObjectArray.h"
+
+#include "Misc/AssertionMacros.h"
+
+int32 FUObjectArray::AllocateUObjectIndex(UObjectBase* Object)
+{
+	const int32 Index = FreeIndices.IsEmpty() ? Objects.AddDefaulted() : FreeIndices.Pop(false);
+	Objects[Index].Object = Object;
+	return Index;
+}
+
+void FUObjectArray::FreeUObjectIndex(int32 Index)
+{
+	check(Objects[Index].Object);
+	Objects[Index] = FUObjectItem();
+	FreeIndices.Add(Index);
+}
+
+int32 FUObjectArray::AllocateSerialNumber(int32 Index)
+{
+	FUObjectItem& Item = Objects[Index];
+	if (Item.SerialNumber == 0)
+	{
+		Item.SerialNumber = ++LastSerialNumber;
+	}
+	return Item.SerialNumber;
+}
+
+FUObjectArray& GetUObjectArray()
+{
+	// Never destroyed: objects and weak pointers may outlive the static objects of the program.
+	static FUObjectArray* const Array = new FUObjectArray();
+	return *Array;
+}

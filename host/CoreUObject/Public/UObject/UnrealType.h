@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+/** Properties of all kinds, and walking over them. */
+#pragma once
+
+#include "UObject/PropertyBase.h"
+#include "UObject/PropertyChangedEvent.h"
+#include "UObject/PropertyContainers.h"
+#include "UObject/PropertyObjects.h"
+#include "UObject/PropertyTypes.h"
+#include "UObject/PropertyIterator.h"
