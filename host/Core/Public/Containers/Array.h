@@ -4,7 +4,7 @@
 
 #include "Containers/ContainerAllocationPolicies.h"
 #include "Containers/ArrayIterator.h"
-#include "Templates/Invoke.h"
+#include "Containers/ArraySearch.h"
 #include "Templates/Sorting.h"
 #include "Templates/TypeHash.h"
 #include <initializer_list>
@@ -18,7 +18,8 @@
  * "Uninitialized".
  */
 template <typename InElementType, typename InAllocatorType>
-class TArray
+class TArray : public UE::Core::Private::TArraySearch<TArray<InElementType, InAllocatorType>, InElementType,
+				   typename InAllocatorType::SizeType>
 {
 	template <typename OtherElementType, typename OtherAllocatorType>
 	friend class TArray;
@@ -279,12 +280,12 @@ public:
 	/** Adds an element unless an equal one is there. @return its index in either case */
 	SizeType AddUnique(const ElementType& Item)
 	{
-		const SizeType Index = Find(Item);
+		const SizeType Index = this->Find(Item);
 		return Index != INDEX_NONE ? Index : Add(Item);
 	}
 	SizeType AddUnique(ElementType&& Item)
 	{
-		const SizeType Index = Find(Item);
+		const SizeType Index = this->Find(Item);
 		return Index != INDEX_NONE ? Index : Add(MoveTempIfPossible(Item));
 	}
 
@@ -337,15 +338,7 @@ public:
 	}
 
 	/** Opens a gap of Count elements before Index, which may be Num(). */
-	void InsertUninitialized(SizeType Index, SizeType Count = 1)
-	{
-		checkf(Index >= 0 && Index <= ArrayNum && Count >= 0,
-			TEXT("Array index out of bounds: %lld into an array of size %lld"), static_cast<int64>(Index),
-			static_cast<int64>(ArrayNum));
-		const SizeType OldNum = AddUninitialized(Count);
-		ElementType* Data = GetData() + Index;
-		RelocateConstructItems(Data + Count, Data, OldNum - Index);
-	}
+	void InsertUninitialized(SizeType Index, SizeType Count = 1);
 	void InsertZeroed(SizeType Index, SizeType Count = 1)
 	{
 		InsertUninitialized(Index, Count);
@@ -393,77 +386,14 @@ public:
 
 	// Removing
 
-	void RemoveAt(SizeType Index, SizeType Count = 1, bool bAllowShrinking = true)
-	{
-		if (Count <= 0)
-		{
-			return;
-		}
-		RangeCheck(Index);
-		RangeCheck(Index + Count - 1);
-		ElementType* Data = GetData() + Index;
-		DestructItems(Data, Count);
-		RelocateConstructItems(Data, Data + Count, ArrayNum - Index - Count);
-		ArrayNum -= Count;
-		ShrinkIf(bAllowShrinking);
-	}
+	void RemoveAt(SizeType Index, SizeType Count = 1, bool bAllowShrinking = true);
 	/** Removes and fills the gap from the end, which changes the order. */
-	void RemoveAtSwap(SizeType Index, SizeType Count = 1, bool bAllowShrinking = true)
-	{
-		if (Count <= 0)
-		{
-			return;
-		}
-		RangeCheck(Index);
-		RangeCheck(Index + Count - 1);
-		ElementType* Data = GetData() + Index;
-		DestructItems(Data, Count);
-		const SizeType NumAfter = ArrayNum - Index - Count;
-		const SizeType NumMoved = NumAfter < Count ? NumAfter : Count;
-		RelocateConstructItems(Data, GetData() + ArrayNum - NumMoved, NumMoved);
-		ArrayNum -= Count;
-		ShrinkIf(bAllowShrinking);
-	}
+	void RemoveAtSwap(SizeType Index, SizeType Count = 1, bool bAllowShrinking = true);
 	/** Removes every element for which the predicate holds and keeps the order. @return number removed */
 	template <typename PredicateType>
-	SizeType RemoveAll(const PredicateType& Predicate)
-	{
-		ElementType* Data = GetData();
-		SizeType Write = 0;
-		for (SizeType Read = 0; Read < ArrayNum; ++Read)
-		{
-			if (Invoke(Predicate, Data[Read]))
-			{
-				Data[Read].~ElementType();
-				continue;
-			}
-			if (Write != Read)
-			{
-				RelocateConstructItems(Data + Write, Data + Read, 1);
-			}
-			++Write;
-		}
-		const SizeType NumRemoved = ArrayNum - Write;
-		ArrayNum = Write;
-		return NumRemoved;
-	}
+	SizeType RemoveAll(const PredicateType& Predicate);
 	template <typename PredicateType>
-	SizeType RemoveAllSwap(const PredicateType& Predicate, bool bAllowShrinking = true)
-	{
-		const SizeType OldNum = ArrayNum;
-		for (SizeType Index = 0; Index < ArrayNum;)
-		{
-			if (Invoke(Predicate, GetData()[Index]))
-			{
-				RemoveAtSwap(Index, 1, bAllowShrinking);
-			}
-			else
-			{
-				++Index;
-			}
-		}
-		return OldNum - ArrayNum;
-	}
+	SizeType RemoveAllSwap(const PredicateType& Predicate, bool bAllowShrinking = true);
 	/** Removes every equal element. @return number removed */
 	SizeType Remove(const ElementType& Item)
 	{
@@ -471,31 +401,13 @@ public:
 		return RemoveAll([&Item](const ElementType& Element) { return Element == Item; });
 	}
 	/** Removes the first equal element. @return 1, or 0 when there is none */
-	SizeType RemoveSingle(const ElementType& Item)
-	{
-		const SizeType Index = Find(Item);
-		if (Index == INDEX_NONE)
-		{
-			return 0;
-		}
-		RemoveAt(Index, 1, false);
-		return 1;
-	}
+	SizeType RemoveSingle(const ElementType& Item);
 	SizeType RemoveSwap(const ElementType& Item, bool bAllowShrinking = true)
 	{
 		CheckAddress(&Item);
 		return RemoveAllSwap([&Item](const ElementType& Element) { return Element == Item; }, bAllowShrinking);
 	}
-	SizeType RemoveSingleSwap(const ElementType& Item, bool bAllowShrinking = true)
-	{
-		const SizeType Index = Find(Item);
-		if (Index == INDEX_NONE)
-		{
-			return 0;
-		}
-		RemoveAtSwap(Index, 1, bAllowShrinking);
-		return 1;
-	}
+	SizeType RemoveSingleSwap(const ElementType& Item, bool bAllowShrinking = true);
 	ElementType Pop(bool bAllowShrinking = true)
 	{
 		ElementType Result = MoveTemp(Last());
@@ -532,46 +444,10 @@ public:
 	{
 		SetCapacity(ArrayNum);
 	}
-	void SetNum(SizeType NewNum, bool bAllowShrinking = true)
-	{
-		check(NewNum >= 0);
-		if (NewNum > ArrayNum)
-		{
-			Reserve(NewNum);
-			AddDefaulted(NewNum - ArrayNum);
-		}
-		else
-		{
-			RemoveAt(NewNum, ArrayNum - NewNum, bAllowShrinking);
-		}
-	}
-	void SetNumZeroed(SizeType NewNum, bool bAllowShrinking = true)
-	{
-		check(NewNum >= 0);
-		if (NewNum > ArrayNum)
-		{
-			Reserve(NewNum);
-			AddZeroed(NewNum - ArrayNum);
-		}
-		else
-		{
-			RemoveAt(NewNum, ArrayNum - NewNum, bAllowShrinking);
-		}
-	}
+	void SetNum(SizeType NewNum, bool bAllowShrinking = true);
+	void SetNumZeroed(SizeType NewNum, bool bAllowShrinking = true);
 	/** New elements keep the bytes of their storage; only for types that need no construction. */
-	void SetNumUninitialized(SizeType NewNum, bool bAllowShrinking = true)
-	{
-		check(NewNum >= 0);
-		if (NewNum > ArrayNum)
-		{
-			Reserve(NewNum);
-			ArrayNum = NewNum;
-		}
-		else
-		{
-			RemoveAt(NewNum, ArrayNum - NewNum, bAllowShrinking);
-		}
-	}
+	void SetNumUninitialized(SizeType NewNum, bool bAllowShrinking = true);
 	/** Lowers the count without destroying what is cut off. */
 	void SetNumUnsafeInternal(SizeType NewNum)
 	{
@@ -588,82 +464,8 @@ public:
 		}
 	}
 
-	// Searching
+	// Order; an array of pointers is sorted by what they point to
 
-	SizeType Find(const ElementType& Item) const
-	{
-		return IndexOfByKey(Item);
-	}
-	bool Find(const ElementType& Item, SizeType& Index) const
-	{
-		return (Index = Find(Item)) != INDEX_NONE;
-	}
-	SizeType FindLast(const ElementType& Item) const
-	{
-		return FindLastByPredicate([&Item](const ElementType& Element) { return Element == Item; });
-	}
-	bool FindLast(const ElementType& Item, SizeType& Index) const
-	{
-		return (Index = FindLast(Item)) != INDEX_NONE;
-	}
-	template <typename PredicateType>
-	SizeType FindLastByPredicate(PredicateType Predicate) const
-	{
-		SizeType Index = ArrayNum - 1;
-		while (Index >= 0 && !Invoke(Predicate, GetData()[Index]))
-		{
-			--Index;
-		}
-		return Index;
-	}
-	template <typename KeyType>
-	SizeType IndexOfByKey(const KeyType& Key) const
-	{
-		const ElementType* Data = GetData();
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Data[Index] == Key)
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	template <typename PredicateType>
-	SizeType IndexOfByPredicate(PredicateType Predicate) const
-	{
-		const ElementType* Data = GetData();
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Invoke(Predicate, Data[Index]))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	template <typename KeyType>
-	const ElementType* FindByKey(const KeyType& Key) const
-	{
-		const SizeType Index = IndexOfByKey(Key);
-		return Index == INDEX_NONE ? nullptr : GetData() + Index;
-	}
-	template <typename KeyType>
-	ElementType* FindByKey(const KeyType& Key)
-	{
-		return const_cast<ElementType*>(AsConst(*this).FindByKey(Key));
-	}
-	template <typename PredicateType>
-	const ElementType* FindByPredicate(PredicateType Predicate) const
-	{
-		const SizeType Index = IndexOfByPredicate(Predicate);
-		return Index == INDEX_NONE ? nullptr : GetData() + Index;
-	}
-	template <typename PredicateType>
-	ElementType* FindByPredicate(PredicateType Predicate)
-	{
-		return const_cast<ElementType*>(AsConst(*this).FindByPredicate(Predicate));
-	}
 	template <typename PredicateType>
 	TArray FilterByPredicate(PredicateType Predicate) const
 	{
@@ -677,19 +479,6 @@ public:
 		}
 		return Result;
 	}
-	template <typename ComparisonType>
-	bool Contains(const ComparisonType& Item) const
-	{
-		return IndexOfByKey(Item) != INDEX_NONE;
-	}
-	template <typename PredicateType>
-	bool ContainsByPredicate(PredicateType Predicate) const
-	{
-		return IndexOfByPredicate(Predicate) != INDEX_NONE;
-	}
-
-	// Order; an array of pointers is sorted by what they point to
-
 	void Sort()
 	{
 		::Sort(GetData(), ArrayNum);
@@ -719,33 +508,12 @@ public:
 	}
 
 private:
-	void SetCapacity(SizeType NewMax)
-	{
-		const SizeType Minimum = Allocator.GetInitialCapacity();
-		NewMax = NewMax < Minimum ? Minimum : NewMax;
-		if (NewMax != ArrayMax)
-		{
-			Allocator.ResizeAllocation(ArrayNum, NewMax);
-			ArrayMax = NewMax;
-		}
-	}
+	void SetCapacity(SizeType NewMax);
 
-	FORCENOINLINE void Grow(USizeType NewNum)
-	{
-		constexpr USizeType Limit = static_cast<USizeType>(-1) / 2;
-		checkf(NewNum <= Limit, TEXT("The array would hold more elements than its index can count"));
-		SetCapacity(DefaultCalculateSlackGrow(static_cast<SizeType>(NewNum), ArrayMax));
-	}
+	FORCENOINLINE void Grow(USizeType NewNum);
 
 	/** Gives memory back when most of it is unused. */
-	void ShrinkIf(bool bAllowShrinking)
-	{
-		constexpr SizeType KeptSlack = 64;
-		if (bAllowShrinking && ArrayMax - ArrayNum > KeptSlack && ArrayNum < ArrayMax / 2)
-		{
-			SetCapacity(ArrayNum);
-		}
-	}
+	void ShrinkIf(bool bAllowShrinking);
 
 	void TakeOver(TArray& Other)
 	{
@@ -777,3 +545,5 @@ uint32 GetTypeHash(const TArray<ElementType, Allocator>& Array)
 	}
 	return Hash;
 }
+
+#include "Containers/ArrayResizing.h"

@@ -11,6 +11,7 @@
  */
 template <typename InElementType, typename InSizeType>
 class TArrayView
+	: public UE::Core::Private::TArraySearch<TArrayView<InElementType, InSizeType>, InElementType, InSizeType>
 {
 public:
 	using ElementType = InElementType;
@@ -121,49 +122,6 @@ public:
 		return Mid(Count);
 	}
 
-	template <typename KeyType>
-	SizeType IndexOfByKey(const KeyType& Key) const
-	{
-		return IndexOfByPredicate([&Key](const ElementType& Element) { return Element == Key; });
-	}
-	template <typename PredicateType>
-	SizeType IndexOfByPredicate(PredicateType Predicate) const
-	{
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Invoke(Predicate, Data[Index]))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	SizeType Find(const ElementType& Item) const
-	{
-		return IndexOfByKey(Item);
-	}
-	template <typename KeyType>
-	bool Contains(const KeyType& Key) const
-	{
-		return IndexOfByKey(Key) != INDEX_NONE;
-	}
-	template <typename PredicateType>
-	bool ContainsByPredicate(PredicateType Predicate) const
-	{
-		return IndexOfByPredicate(Predicate) != INDEX_NONE;
-	}
-	template <typename KeyType>
-	ElementType* FindByKey(const KeyType& Key) const
-	{
-		const SizeType Index = IndexOfByKey(Key);
-		return Index == INDEX_NONE ? nullptr : Data + Index;
-	}
-	template <typename PredicateType>
-	ElementType* FindByPredicate(PredicateType Predicate) const
-	{
-		const SizeType Index = IndexOfByPredicate(Predicate);
-		return Index == INDEX_NONE ? nullptr : Data + Index;
-	}
 	void Sort() const
 	{
 		::Sort(Data, ArrayNum);
