@@ -54,7 +54,7 @@ FAdvancedPreviewScene::~FAdvancedPreviewScene()
 	UAssetViewerSettings::Get()->OnAssetViewerSettingsChanged().RemoveAll(this);
 }
 
-const bool FAdvancedPreviewScene::HandleViewportInput(
+bool FAdvancedPreviewScene::HandleViewportInput(
 	FViewport* InViewport, FInputDeviceId, FKey Key, float Delta, float, int32, bool)
 {
 	if (!InViewport || Key != EKeys::MouseX)
@@ -76,7 +76,7 @@ const bool FAdvancedPreviewScene::HandleViewportInput(
 	return false;
 }
 
-const bool FAdvancedPreviewScene::HandleInputKey(const FInputKeyEventArgs& EventArgs)
+bool FAdvancedPreviewScene::HandleInputKey(const FInputKeyEventArgs& EventArgs)
 {
 	UAssetViewerSettings* const Settings = UAssetViewerSettings::Get();
 	if (EventArgs.Event != IE_Pressed || !Settings->Profiles.IsValidIndex(CurrentProfileIndex))
@@ -87,19 +87,19 @@ const bool FAdvancedPreviewScene::HandleInputKey(const FInputKeyEventArgs& Event
 	if (EventArgs.Key == EKeys::I)
 	{
 		Profile.bShowEnvironment = !Profile.bShowEnvironment;
-		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bShowEnvironment));
+		Settings->NotifyChanged(FName(TEXT("bShowEnvironment")));
 		return true;
 	}
 	if (EventArgs.Key == EKeys::O)
 	{
 		Profile.bShowFloor = !Profile.bShowFloor;
-		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bShowFloor));
+		Settings->NotifyChanged(FName(TEXT("bShowFloor")));
 		return true;
 	}
 	if (EventArgs.Key == EKeys::P)
 	{
 		Profile.bPostProcessingEnabled = !Profile.bPostProcessingEnabled;
-		Settings->NotifyChanged(GET_MEMBER_NAME_CHECKED(FPreviewSceneProfile, bPostProcessingEnabled));
+		Settings->NotifyChanged(FName(TEXT("bPostProcessingEnabled")));
 		return true;
 	}
 	return false;

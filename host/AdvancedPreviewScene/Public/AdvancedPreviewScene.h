@@ -18,12 +18,12 @@ public:
 	virtual ~FAdvancedPreviewScene() override;
 
 	/** True when the mouse move turned something. */
-	const bool HandleViewportInput(FViewport* InViewport, FInputDeviceId DeviceId, FKey Key, float Delta,
+	bool HandleViewportInput(FViewport* InViewport, FInputDeviceId DeviceId, FKey Key, float Delta,
 		float DeltaTime, int32 NumSamples, bool bGamepad);
 	/** True when the key switched something. */
-	const bool HandleInputKey(const FInputKeyEventArgs& EventArgs);
+	bool HandleInputKey(const FInputKeyEventArgs& EventArgs);
 
-	const int32 GetCurrentProfileIndex() const { return CurrentProfileIndex; }
+	int32 GetCurrentProfileIndex() const { return CurrentProfileIndex; }
 	/** An index outside the profiles changes nothing. */
 	void SetProfileIndex(const int32 InProfileIndex);
 	void SetFloorOffset(const float InFloorOffset) { FloorOffset = InFloorOffset; }

@@ -4,7 +4,7 @@
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
 #include "Logging/LogMacros.h"
-#include "WorldTickList.h"
+#include "RegisteredComponents.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogActorComponent, Log, All);
 
@@ -72,10 +72,7 @@ void UActorComponent::RegisterComponentWithWorld(UWorld* InWorld)
 		AddToScene();
 		bInScene = true;
 	}
-	if (PrimaryComponentTick.bCanEverTick)
-	{
-		InWorld->TickList->Add(this);
-	}
+	InWorld->RegisteredComponents->Add(this);
 }
 
 void UActorComponent::UnregisterComponent()
@@ -84,7 +81,7 @@ void UActorComponent::UnregisterComponent()
 	{
 		return;
 	}
-	WorldPrivate->TickList->Remove(this);
+	WorldPrivate->RegisteredComponents->Remove(this);
 	if (bInScene)
 	{
 		RemoveFromScene();

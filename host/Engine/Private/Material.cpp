@@ -2,6 +2,7 @@
 #include "Materials/Material.h"
 
 #include "Host/MaterialDeclaration.h"
+#include "Host/NativeCopy.h"
 #include "UObject/GCObject.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
@@ -10,15 +11,15 @@ namespace Host
 {
 struct FMaterialAccess
 {
-	static TSharedPtr<FMaterialDeclaration>& Get(UMaterial& Material) { return Material.Declared.Declaration; }
-	static const TSharedPtr<FMaterialDeclaration>& Get(const UMaterial& Material)
-	{
-		return Material.Declared.Declaration;
-	}
+	static TSharedPtr<FMaterialDeclaration>& Get(UMaterial& Material) { return Material.Declaration; }
+	static const TSharedPtr<FMaterialDeclaration>& Get(const UMaterial& Material) { return Material.Declaration; }
 };
 
 namespace
 {
+TNativeCopy<UMaterial> CopyMaterial(
+	[](const UMaterial& Source, UMaterial& Target) { FMaterialAccess::Get(Target) = FMaterialAccess::Get(Source); });
+
 template <typename ParameterType>
 const ParameterType* FindByName(const TArray<ParameterType>& Parameters, FName Name)
 {

@@ -5,6 +5,7 @@
 #include "Host/MaterialDeclaration.h"
 #include "MaterialInstanceAccess.h"
 #include "Materials/Material.h"
+#include "Templates/Casts.h"
 #include "Materials/MaterialInstance.h"
 
 namespace Host

@@ -4,6 +4,7 @@
 #include "Engine/Texture.h"
 #include "Logging/LogMacros.h"
 #include "Materials/Material.h"
+#include "Templates/Casts.h"
 
 namespace
 {
@@ -180,8 +181,8 @@ void UMaterialInstance::ResolveOverrides()
 	OpacityMaskClipValue = GetOpacityMaskClipValue();
 }
 
-void UMaterialInstance::PostEditChange()
+void UMaterialInstance::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
 	ResolveOverrides();
-	Super::PostEditChange();
+	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

@@ -2,33 +2,39 @@
 #include "Engine/SkeletalMesh.h"
 
 #include "Animation/Skeleton.h"
+#include "Host/NativeCopy.h"
 #include "Materials/MaterialInterface.h"
 #include "Rendering/SkeletalMeshModel.h"
 #include "Rendering/SkeletalMeshRenderData.h"
 #include "SkeletalMeshRenderDataBuilder.h"
 
-FSkeletalMeshGeometry::FSkeletalMeshGeometry()
-	: ImportedModel(MakeShared<FSkeletalMeshModel>())
+namespace Host
 {
-}
-
-FSkeletalMeshGeometry::FSkeletalMeshGeometry(const FSkeletalMeshGeometry& Other)
-	: RefSkeleton(Other.RefSkeleton)
-	, RefBasesInvMatrix(Other.RefBasesInvMatrix)
-	, ImportedModel(MakeShared<FSkeletalMeshModel>(*Other.ImportedModel))
+struct FSkeletalMeshAccess
 {
-}
-
-FSkeletalMeshGeometry& FSkeletalMeshGeometry::operator=(const FSkeletalMeshGeometry& Other)
-{
-	if (this != &Other)
+	/** Source and bones go along; what renders is built from them where the source had been built. */
+	static void Copy(const USkeletalMesh& Source, USkeletalMesh& Target)
 	{
-		RefSkeleton = Other.RefSkeleton;
-		RefBasesInvMatrix = Other.RefBasesInvMatrix;
-		ImportedModel = MakeShared<FSkeletalMeshModel>(*Other.ImportedModel);
-		RenderData.Reset();
+		Target.RefSkeleton = Source.RefSkeleton;
+		Target.RefBasesInvMatrix = Source.RefBasesInvMatrix;
+		Target.ImportedModel = MakeShared<FSkeletalMeshModel>(*Source.ImportedModel);
+		if (Source.RenderData)
+		{
+			Target.Build();
+		}
 	}
-	return *this;
+};
+
+namespace
+{
+TNativeCopy<USkeletalMesh> CopySkeletalMesh(&FSkeletalMeshAccess::Copy);
+} // namespace
+} // namespace Host
+
+USkeletalMesh::USkeletalMesh(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, ImportedModel(MakeShared<FSkeletalMeshModel>())
+{
 }
 
 TArray<FSkeletalMaterial>& USkeletalMesh::GetMaterials()
@@ -86,17 +92,17 @@ int32 USkeletalMesh::GetLODNum() const
 
 FReferenceSkeleton& USkeletalMesh::GetRefSkeleton()
 {
-	return Geometry.RefSkeleton;
+	return RefSkeleton;
 }
 
 const FReferenceSkeleton& USkeletalMesh::GetRefSkeleton() const
 {
-	return Geometry.RefSkeleton;
+	return RefSkeleton;
 }
 
 void USkeletalMesh::SetRefSkeleton(const FReferenceSkeleton& InRefSkeleton)
 {
-	Geometry.RefSkeleton = InRefSkeleton;
+	RefSkeleton = InRefSkeleton;
 }
 
 USkeleton* USkeletalMesh::GetSkeleton()
@@ -130,42 +136,40 @@ void USkeletalMesh::CalculateRequiredBones(FSkeletalMeshLODModel& LODModel, cons
 
 void USkeletalMesh::CalculateInvRefMatrices()
 {
-	const FReferenceSkeleton& Bones = Geometry.RefSkeleton;
-	const int32 NumBones = Bones.GetRawBoneNum();
-	if (Geometry.RefBasesInvMatrix.Num() == NumBones)
+	const int32 NumBones = RefSkeleton.GetRawBoneNum();
+	if (RefBasesInvMatrix.Num() == NumBones)
 	{
 		return;
 	}
 	// Parents stand before their children, so one pass composes all of them.
 	TArray<FMatrix> ToMesh;
 	ToMesh.Reserve(NumBones);
-	Geometry.RefBasesInvMatrix.Empty(NumBones);
+	RefBasesInvMatrix.Empty(NumBones);
 	for (int32 Bone = 0; Bone < NumBones; ++Bone)
 	{
-		const int32 ParentBone = Bones.GetRawParentIndex(Bone);
-		const FMatrix Local = Bones.GetRawRefBonePose()[Bone].ToMatrixWithScale();
+		const int32 ParentBone = RefSkeleton.GetRawParentIndex(Bone);
+		const FMatrix Local = RefSkeleton.GetRawRefBonePose()[Bone].ToMatrixWithScale();
 		ToMesh.Add(ParentBone == INDEX_NONE ? Local : Local * ToMesh[ParentBone]);
-		Geometry.RefBasesInvMatrix.Add(FMatrix44f(ToMesh[Bone].Inverse()));
+		RefBasesInvMatrix.Add(FMatrix44f(ToMesh[Bone].Inverse()));
 	}
 }
 
 TArray<FMatrix44f>& USkeletalMesh::GetRefBasesInvMatrix()
 {
-	return Geometry.RefBasesInvMatrix;
+	return RefBasesInvMatrix;
 }
 
 const TArray<FMatrix44f>& USkeletalMesh::GetRefBasesInvMatrix() const
 {
-	return Geometry.RefBasesInvMatrix;
+	return RefBasesInvMatrix;
 }
 
 FMatrix USkeletalMesh::GetComposedRefPoseMatrix(int32 InBoneIndex) const
 {
-	const FReferenceSkeleton& Bones = Geometry.RefSkeleton;
 	FMatrix Composed = FMatrix::Identity;
-	for (int32 Bone = InBoneIndex; Bone != INDEX_NONE; Bone = Bones.GetRawParentIndex(Bone))
+	for (int32 Bone = InBoneIndex; Bone != INDEX_NONE; Bone = RefSkeleton.GetRawParentIndex(Bone))
 	{
-		Composed = Composed * Bones.GetRawRefBonePose()[Bone].ToMatrixWithScale();
+		Composed = Composed * RefSkeleton.GetRawRefBonePose()[Bone].ToMatrixWithScale();
 	}
 	return Composed;
 }
@@ -182,20 +186,20 @@ FBoxSphereBounds USkeletalMesh::GetBounds() const
 
 void USkeletalMesh::Build()
 {
-	if (!Geometry.RenderData)
+	if (!RenderData)
 	{
-		Geometry.RenderData = MakeShared<FSkeletalMeshRenderData>();
+		RenderData = MakeShared<FSkeletalMeshRenderData>();
 	}
-	Host::BuildSkeletalMeshRenderData(*this, *Geometry.RenderData);
+	Host::BuildSkeletalMeshRenderData(*this, *RenderData);
 }
 
 FSkeletalMeshRenderData* USkeletalMesh::GetResourceForRendering() const
 {
-	return Geometry.RenderData.Get();
+	return RenderData.Get();
 }
 
-void USkeletalMesh::PostEditChange()
+void USkeletalMesh::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
 	Build();
-	Super::PostEditChange();
+	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

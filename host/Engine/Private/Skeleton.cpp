@@ -2,11 +2,19 @@
 #include "Animation/Skeleton.h"
 
 #include "Engine/SkeletalMesh.h"
+#include "Host/NativeCopy.h"
+#include "SkeletonAccess.h"
 #include "UObject/UObjectIterator.h"
+
+namespace
+{
+Host::TNativeCopy<USkeleton> CopySkeleton([](const USkeleton& Source, USkeleton& Target)
+	{ Host::FSkeletonAccess::GetRefSkeleton(Target) = Source.GetReferenceSkeleton(); });
+} // namespace
 
 bool USkeleton::DoesParentChainMatch(int32 StartBoneTreeIndex, const USkinnedAsset* InSkinnedAsset) const
 {
-	const FReferenceSkeleton& Own = Bones.ReferenceSkeleton;
+	const FReferenceSkeleton& Own = ReferenceSkeleton;
 	const FReferenceSkeleton& Theirs = InSkinnedAsset->GetRefSkeleton();
 	int32 OwnBone = StartBoneTreeIndex;
 	int32 TheirBone = Theirs.FindRawBoneIndex(Own.GetRawRefBoneInfo()[StartBoneTreeIndex].Name);
@@ -36,7 +44,7 @@ bool USkeleton::IsCompatibleMesh(const USkinnedAsset* InSkinnedAsset, bool bDoPa
 	{
 		return false;
 	}
-	const FReferenceSkeleton& Own = Bones.ReferenceSkeleton;
+	const FReferenceSkeleton& Own = ReferenceSkeleton;
 	const FReferenceSkeleton& Theirs = InSkinnedAsset->GetRefSkeleton();
 	int32 NumFound = 0;
 	for (int32 TheirBone = 0; TheirBone < Theirs.GetRawBoneNum(); ++TheirBone)
@@ -83,13 +91,13 @@ bool USkeleton::MergeAllBonesToBoneTree(const USkinnedAsset* InSkinnedAsset, boo
 bool USkeleton::MergeBonesToBoneTree(
 	const USkinnedAsset* InSkinnedAsset, const TArray<int32>& RequiredRefBones, bool /*bShowProgress*/)
 {
-	const bool bWasEmpty = Bones.ReferenceSkeleton.GetRawBoneNum() == 0;
+	const bool bWasEmpty = ReferenceSkeleton.GetRawBoneNum() == 0;
 	if (!InSkinnedAsset || (!bWasEmpty && !IsCompatibleMesh(InSkinnedAsset)))
 	{
 		return false;
 	}
 	const FReferenceSkeleton& Theirs = InSkinnedAsset->GetRefSkeleton();
-	FReferenceSkeletonModifier Modifier(Bones.ReferenceSkeleton, this);
+	FReferenceSkeletonModifier Modifier(ReferenceSkeleton, this);
 	for (const int32 TheirBone : RequiredRefBones)
 	{
 		FMeshBoneInfo Bone = Theirs.GetRawRefBoneInfo()[TheirBone];

@@ -8,6 +8,6 @@ namespace Host
 {
 struct FSkeletonAccess
 {
-	static FReferenceSkeleton& GetRefSkeleton(USkeleton& Skeleton) { return Skeleton.Bones.ReferenceSkeleton; }
+	static FReferenceSkeleton& GetRefSkeleton(USkeleton& Skeleton) { return Skeleton.ReferenceSkeleton; }
 };
 } // namespace Host

@@ -128,8 +128,8 @@ void UTexture::UpdateResource()
 	++ResourceVersion;
 }
 
-void UTexture::PostEditChange()
+void UTexture::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
 	UpdateResource();
-	Super::PostEditChange();
+	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

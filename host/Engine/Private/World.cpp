@@ -11,7 +11,7 @@
 #include "Logging/LogMacros.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
-#include "WorldTickList.h"
+#include "RegisteredComponents.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogWorld, Log, All);
 
@@ -19,7 +19,7 @@ UEngine* GEngine = nullptr;
 
 UWorld::UWorld(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-	, TickList(MakeShared<FWorldTickList>())
+	, RegisteredComponents(MakeShared<FRegisteredComponents>())
 {
 }
 
@@ -98,8 +98,8 @@ void UWorld::Tick(ELevelTick TickType, float DeltaSeconds)
 	if (TickType == LEVELTICK_All)
 	{
 		// A component may end the world while it ticks.
-		const TSharedPtr<FWorldTickList> Running = TickList;
-		Running->Run(TickType, Delta);
+		const TSharedPtr<FRegisteredComponents> Ticking = RegisteredComponents;
+		Ticking->Tick(TickType, Delta);
 	}
 }
 
@@ -122,18 +122,7 @@ void UWorld::CleanupWorld()
 	{
 		return;
 	}
-	if (PersistentLevel)
-	{
-		const TArray<TObjectPtr<AActor>> Actors = PersistentLevel->Actors;
-		for (const TObjectPtr<AActor>& Actor : Actors)
-		{
-			if (Actor)
-			{
-				Actor->UnregisterAllComponents();
-			}
-		}
-	}
-	TickList->UnregisterAll();
+	RegisteredComponents->UnregisterAll();
 	delete Scene;
 	Scene = nullptr;
 }

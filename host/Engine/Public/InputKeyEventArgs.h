@@ -38,6 +38,4 @@ struct FInputKeyEventArgs
 		, bIsTouchEvent(bInIsTouchEvent)
 	{
 	}
-
-	bool IsGamepad() const { return Key.IsGamepadKey(); }
 };

@@ -18,16 +18,17 @@ public:
 	struct ConstructionValues
 	{
 		/** Degrees. */
-		FRotator LightRotation = FRotator(-40.0, -67.5, 0.0);
-		float LightBrightness = 3.14159265f;
-		float SkyBrightness = 1.0f;
-		bool bDefaultLighting = true;
-		bool bCreatePhysicsScene = true;
-		bool bShouldSimulatePhysics = false;
-		bool bTransactional = true;
-		bool bEditor = true;
+		FRotator LightRotation;
+		float LightBrightness;
+		float SkyBrightness;
+		bool bDefaultLighting;
+		bool bCreatePhysicsScene;
+		bool bShouldSimulatePhysics;
+		bool bTransactional;
+		bool bEditor;
 
-		ConstructionValues() = default;
+		/** Light from above and all around, in an editor, with transactions and a physics scene. */
+		ConstructionValues();
 
 		ConstructionValues& SetLightRotation(const FRotator& Rotation);
 		ConstructionValues& SetLightBrightness(const float Brightness);

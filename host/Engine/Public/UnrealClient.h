@@ -41,6 +41,9 @@ public:
 	virtual void InvalidateDisplay() { bDisplayDirty = true; }
 	virtual void InvalidateHitProxy() { bHitProxiesDirty = true; }
 
+	/** True until the next Draw. */
+	bool IsDisplayDirty() const { return bDisplayDirty; }
+
 	/** Asks the client to fill the viewport; the picture is up to date then. */
 	void Draw(bool bShouldPresent = true);
 

@@ -3,7 +3,17 @@
 #include "Framework/Commands/Commands.h"
 
 #include "Framework/Commands/GenericCommands.h"
+#include "Internationalization/Internationalization.h"
 #include "Styling/AppStyle.h"
+
+namespace
+{
+/** LOCTEXT for texts that are not literals here. */
+FText MakeText(const TCHAR* Source, const TCHAR* Namespace, const TCHAR* Key)
+{
+	return FInternationalization::ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(Source, Namespace, Key);
+}
+} // namespace
 
 FSimpleMulticastDelegate FBindingContext::CommandsChanged;
 
@@ -51,8 +61,8 @@ void MakeUICommand_InternalUseOnly(FBindingContext* This, TSharedPtr<FUICommandI
 		InSubNamespace && *InSubNamespace ? FString(TEXT("UICommands.")) + InSubNamespace : FString(TEXT("UICommands"));
 	const FName IconKey(*(This->GetContextName().ToString() + FString(DotCommandName)));
 	FUICommandInfo::MakeCommandInfo(This->AsShared(), OutCommand, FName(InCommandName),
-		FText::AsLocalizable_Advanced(*Namespace, InCommandName, FriendlyName),
-		FText::AsLocalizable_Advanced(*Namespace, InCommandNameUnderscoreTooltip, InDescription),
+		MakeText(FriendlyName, *Namespace, InCommandName),
+		MakeText(InDescription, *Namespace, InCommandNameUnderscoreTooltip),
 		FSlateIcon(This->GetStyleSetName(), IconKey), CommandType, InDefaultChord, InAlternateDefaultChord);
 }
 

@@ -17,15 +17,6 @@ namespace Host
 struct FSkeletonAccess;
 } // namespace Host
 
-/** The bones of a skeleton, copied with it. */
-USTRUCT()
-struct FSkeletonBoneTree
-{
-	GENERATED_BODY()
-
-	FReferenceSkeleton ReferenceSkeleton;
-};
-
 /** The skeleton that meshes and animations share: a tree of bones that meshes add theirs to. */
 UCLASS()
 class USkeleton : public UObject
@@ -33,7 +24,7 @@ class USkeleton : public UObject
 	GENERATED_BODY()
 
 public:
-	const FReferenceSkeleton& GetReferenceSkeleton() const { return Bones.ReferenceSkeleton; }
+	const FReferenceSkeleton& GetReferenceSkeleton() const { return ReferenceSkeleton; }
 
 	/**
 	 * Takes in the bones of a mesh. An empty skeleton copies all of them with their poses. Otherwise the mesh must be
@@ -67,8 +58,7 @@ public:
 private:
 	friend struct Host::FSkeletonAccess;
 
-	UPROPERTY()
-	FSkeletonBoneTree Bones;
+	FReferenceSkeleton ReferenceSkeleton;
 
 	/** Weak, so that a skeleton does not keep meshes loaded. */
 	UPROPERTY()

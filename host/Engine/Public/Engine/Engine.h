@@ -27,6 +27,19 @@ UCLASS(Abstract)
 class UEngine : public UObject
 {
 	GENERATED_BODY()
+
+public:
+	/** Asks for a garbage collection at the end of the frame. */
+	void ForceGarbageCollection(bool bFullPurge = false)
+	{
+		(void)bFullPurge;
+		bGarbageCollectionForced = true;
+	}
+	bool IsGarbageCollectionForced() const { return bGarbageCollectionForced; }
+	void ClearForcedGarbageCollection() { bGarbageCollectionForced = false; }
+
+private:
+	bool bGarbageCollectionForced = false;
 };
 
 /** Null while no engine runs. */

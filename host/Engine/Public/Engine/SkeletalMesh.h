@@ -17,27 +17,10 @@ class FSkeletalMeshLODModel;
 class FSkeletalMeshModel;
 class USkeleton;
 
-/** The geometry of a skeletal mesh, copied with it. */
-USTRUCT()
-struct FSkeletalMeshGeometry
+namespace Host
 {
-	GENERATED_BODY()
-
-	ENGINE_API FSkeletalMeshGeometry();
-	ENGINE_API FSkeletalMeshGeometry(const FSkeletalMeshGeometry& Other);
-	ENGINE_API FSkeletalMeshGeometry& operator=(const FSkeletalMeshGeometry& Other);
-
-	FReferenceSkeleton RefSkeleton;
-
-	/** From the mesh's space to each bone's in the reference pose. */
-	TArray<FMatrix44f> RefBasesInvMatrix;
-
-	/** Never null, never shared with another mesh. */
-	TSharedPtr<FSkeletalMeshModel> ImportedModel;
-
-	/** Null until the mesh is built; a copy is built anew. */
-	TSharedPtr<FSkeletalMeshRenderData> RenderData;
-};
+struct FSkeletalMeshAccess;
+} // namespace Host
 
 /** A mesh asset whose vertices hang on the bones of a skeleton. A new one has no bones and no level of detail. */
 UCLASS()
@@ -46,8 +29,10 @@ class USkeletalMesh : public USkinnedAsset
 	GENERATED_BODY()
 
 public:
+	ENGINE_API USkeletalMesh(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
 	/** The source of the mesh: fill it, then Build. Never null. */
-	FSkeletalMeshModel* GetImportedModel() const { return Geometry.ImportedModel.Get(); }
+	FSkeletalMeshModel* GetImportedModel() const { return ImportedModel.Get(); }
 
 	ENGINE_API virtual TArray<FSkeletalMaterial>& GetMaterials() override;
 	ENGINE_API virtual const TArray<FSkeletalMaterial>& GetMaterials() const override;
@@ -114,11 +99,21 @@ public:
 	ENGINE_API virtual FSkeletalMeshRenderData* GetResourceForRendering() const override;
 
 	/** Builds again. */
-	ENGINE_API virtual void PostEditChange() override;
+	ENGINE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
 private:
-	UPROPERTY()
-	FSkeletalMeshGeometry Geometry;
+	friend struct Host::FSkeletalMeshAccess;
+
+	FReferenceSkeleton RefSkeleton;
+
+	/** From the mesh's space to each bone's in the reference pose. */
+	TArray<FMatrix44f> RefBasesInvMatrix;
+
+	/** Never null, never shared with another mesh. */
+	TSharedPtr<FSkeletalMeshModel> ImportedModel;
+
+	/** Null until the mesh is built. */
+	TSharedPtr<FSkeletalMeshRenderData> RenderData;
 
 	UPROPERTY(EditAnywhere, Category = Material)
 	TArray<FSkeletalMaterial> Materials;

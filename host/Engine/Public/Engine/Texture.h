@@ -127,7 +127,7 @@ public:
 	/** Height of the texture in pixels. */
 	virtual float GetSurfaceHeight() const { return static_cast<float>(Source.GetSizeY()); }
 
-	ENGINE_API virtual void PostEditChange() override;
+	ENGINE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
 private:
 	friend struct Host::FTextureAccess;

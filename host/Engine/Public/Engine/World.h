@@ -14,7 +14,7 @@ class AActor;
 class AWorldSettings;
 class FSceneInterface;
 class ULevel;
-struct FWorldTickList;
+struct FRegisteredComponents;
 
 /** How an actor is spawned. */
 struct FActorSpawnParameters
@@ -115,8 +115,7 @@ private:
 	UPROPERTY()
 	TObjectPtr<AWorldSettings> WorldSettings;
 
-	/** Registered components; see FWorldTickList. */
-	TSharedPtr<FWorldTickList> TickList;
+	TSharedPtr<FRegisteredComponents> RegisteredComponents;
 	ERHIFeatureLevel::Type FeatureLevel = ERHIFeatureLevel::SM5;
 	double TimeSeconds = 0.0;
 	float DeltaTimeSeconds = 0.0f;

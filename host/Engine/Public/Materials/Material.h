@@ -15,15 +15,6 @@ struct FMaterialAccess;
 struct FMaterialDeclaration;
 } // namespace Host
 
-/** The parameters and the look that a material declares; null until something is declared. Copies share them. */
-USTRUCT()
-struct FMaterialDeclarationReference
-{
-	GENERATED_BODY()
-
-	TSharedPtr<Host::FMaterialDeclaration> Declaration;
-};
-
 /** A material asset: the render settings, and the parameters that its instances override. */
 UCLASS()
 class UMaterial : public UMaterialInterface
@@ -75,6 +66,6 @@ public:
 private:
 	friend struct Host::FMaterialAccess;
 
-	UPROPERTY()
-	FMaterialDeclarationReference Declared;
+	/** Null until something is declared; shared with duplicates until one of them changes it. */
+	TSharedPtr<Host::FMaterialDeclaration> Declaration;
 };

@@ -110,7 +110,7 @@ public:
 	ENGINE_API virtual bool GetStaticSwitchParameterValue(const FHashedMaterialParameterInfo& ParameterInfo,
 		bool& OutValue, FGuid& OutExpressionGuid, bool bOveriddenOnly = false) const override;
 
-	ENGINE_API virtual void PostEditChange() override;
+	ENGINE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
 protected:
 	/** Replaces the parent unless its own parents lead back here; false, with a warning in the log, then. */

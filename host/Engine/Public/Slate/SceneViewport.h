@@ -28,9 +28,6 @@ public:
 
 	TWeakPtr<SWidget> GetViewportWidget() const { return ViewportWidget; }
 
-	/** True until the next Draw. */
-	bool IsDisplayDirty() const { return bDisplayDirty; }
-
 private:
 	TWeakPtr<SWidget> ViewportWidget;
 	TMap<FKey, bool> KeyStateMap;

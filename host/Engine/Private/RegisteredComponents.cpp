@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "WorldTickList.h"
+#include "RegisteredComponents.h"
 
 #include "Components/ActorComponent.h"
 
-void FWorldTickList::Add(UActorComponent* Component)
+void FRegisteredComponents::Add(UActorComponent* Component)
 {
 	Entries.Add({Component, 0.0f});
 }
 
-void FWorldTickList::Remove(UActorComponent* Component)
+void FRegisteredComponents::Remove(UActorComponent* Component)
 {
 	const int32 Index = Entries.IndexOfByPredicate([&](const FEntry& Entry) { return Entry.Component == Component; });
 	if (Index == INDEX_NONE)
 	{
 		return;
 	}
-	if (RunDepth > 0)
+	if (TickDepth > 0)
 	{
 		Entries[Index].Component = nullptr;
 		bHasGaps = true;
@@ -24,10 +24,10 @@ void FWorldTickList::Remove(UActorComponent* Component)
 	Entries.RemoveAt(Index);
 }
 
-void FWorldTickList::Run(ELevelTick TickType, float DeltaSeconds)
+void FRegisteredComponents::Tick(ELevelTick TickType, float DeltaSeconds)
 {
 	const int32 Count = Entries.Num();
-	++RunDepth;
+	++TickDepth;
 	for (int32 Index = 0; Index < Count; ++Index)
 	{
 		UActorComponent* const Component = Entries[Index].Component;
@@ -45,9 +45,20 @@ void FWorldTickList::Run(ELevelTick TickType, float DeltaSeconds)
 		// The call may add entries and so move them.
 		Component->TickComponent(Elapsed, TickType, &Component->PrimaryComponentTick);
 	}
-	if (--RunDepth == 0 && bHasGaps)
+	if (--TickDepth == 0 && bHasGaps)
 	{
 		Entries.RemoveAll([](const FEntry& Entry) { return Entry.Component == nullptr; });
 		bHasGaps = false;
+	}
+}
+
+void FRegisteredComponents::UnregisterAll()
+{
+	for (int32 Index = Entries.Num() - 1; Index >= 0; --Index)
+	{
+		if (Entries.IsValidIndex(Index) && Entries[Index].Component)
+		{
+			Entries[Index].Component->UnregisterComponent();
+		}
 	}
 }

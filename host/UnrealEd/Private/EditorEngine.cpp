@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "Editor.h"
+
+#include "Components/ActorComponent.h"
+#include "EditorSubsystem.h"
+#include "EditorViewportClient.h"
+#include "Engine/World.h"
+#include "Host/EditorState.h"
+#include "Slate/SceneViewport.h"
+#include "TickableEditorObject.h"
+#include "TimerManager.h"
+#include "UObject/Class.h"
+#include "UObject/Package.h"
+
+UEditorEngine* GEditor = nullptr;
+
+UEditorEngine::UEditorEngine(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}
+
+void UEditorEngine::InitEditor()
+{
+	TimerManager = MakeShared<FTimerManager>();
+	EditorWorld = UWorld::CreateWorld(EWorldType::Editor, true, FName(TEXT("Untitled")));
+	EditorWorldContext.WorldType = EWorldType::Editor;
+	EditorWorldContext.SetCurrentWorld(EditorWorld);
+}
+
+void UEditorEngine::PreExit()
+{
+	bExiting = true;
+	Subsystems.Empty();
+	SelectedComponents.Empty();
+	if (EditorWorld)
+	{
+		EditorWorldContext.SetCurrentWorld(nullptr);
+		EditorWorld->DestroyWorld(true);
+		EditorWorld = nullptr;
+	}
+	TimerManager.Reset();
+}
+
+void UEditorEngine::Tick(float DeltaSeconds, bool)
+{
+	GetTimerManager()->Tick(DeltaSeconds);
+	FTickableEditorObject::TickObjects(DeltaSeconds);
+	// What a client does in its tick may close viewports, this one's too, or open others.
+	const TArray<FEditorViewportClient*> Clients = AllViewportClients;
+	for (FEditorViewportClient* const Client : Clients)
+	{
+		if (AllViewportClients.Contains(Client))
+		{
+			Client->Tick(DeltaSeconds);
+		}
+	}
+	for (FEditorViewportClient* const Client : Clients)
+	{
+		if (AllViewportClients.Contains(Client) && Client->Viewport && Client->Viewport->IsDisplayDirty())
+		{
+			Client->Viewport->Draw();
+		}
+	}
+}
+
+TSharedRef<FTimerManager> UEditorEngine::GetTimerManager()
+{
+	return TimerManager.ToSharedRef();
+}
+
+FWorldContext& UEditorEngine::GetEditorWorldContext(bool)
+{
+	return EditorWorldContext;
+}
+
+void UEditorEngine::SetPreviewPlatform(const FPreviewPlatformInfo& NewPreviewPlatform, bool)
+{
+	const ERHIFeatureLevel::Type Former = PreviewPlatform.GetEffectivePreviewFeatureLevel();
+	PreviewPlatform = NewPreviewPlatform;
+	const ERHIFeatureLevel::Type Level = PreviewPlatform.GetEffectivePreviewFeatureLevel();
+	if (Level == Former)
+	{
+		return;
+	}
+	DefaultWorldFeatureLevel = Level;
+	if (EditorWorld)
+	{
+		EditorWorld->ChangeFeatureLevel(Level);
+	}
+	PreviewFeatureLevelChanged.Broadcast(Level);
+}
+
+void UEditorEngine::RegisterForUndo(FEditorUndoClient* UndoClient)
+{
+	UndoClients.AddUnique(UndoClient);
+}
+
+void UEditorEngine::UnregisterForUndo(FEditorUndoClient* UndoClient)
+{
+	UndoClients.Remove(UndoClient);
+}
+
+int32 UEditorEngine::BeginTransaction(const FText& Description)
+{
+	OpenTransactions.Add(Description);
+	return HistoryPosition;
+}
+
+int32 UEditorEngine::EndTransaction()
+{
+	if (OpenTransactions.IsEmpty())
+	{
+		return INDEX_NONE;
+	}
+	const FText Description = OpenTransactions.Pop();
+	if (OpenTransactions.IsEmpty())
+	{
+		History.SetNum(HistoryPosition);
+		History.Add(Description);
+		++HistoryPosition;
+	}
+	return HistoryPosition - 1;
+}
+
+bool UEditorEngine::UndoTransaction(bool bCanRedo)
+{
+	const bool bSuccess = HistoryPosition > 0 && OpenTransactions.IsEmpty();
+	if (bSuccess)
+	{
+		--HistoryPosition;
+		if (!bCanRedo)
+		{
+			History.SetNum(HistoryPosition);
+		}
+		const TArray<FEditorUndoClient*> Clients = UndoClients;
+		for (FEditorUndoClient* const Client : Clients)
+		{
+			if (UndoClients.Contains(Client))
+			{
+				Client->PostUndo(true);
+			}
+		}
+	}
+	return bSuccess;
+}
+
+bool UEditorEngine::RedoTransaction()
+{
+	const bool bSuccess = HistoryPosition < History.Num() && OpenTransactions.IsEmpty();
+	if (bSuccess)
+	{
+		++HistoryPosition;
+		const TArray<FEditorUndoClient*> Clients = UndoClients;
+		for (FEditorUndoClient* const Client : Clients)
+		{
+			if (UndoClients.Contains(Client))
+			{
+				Client->PostRedo(true);
+			}
+		}
+	}
+	return bSuccess;
+}
+
+void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool, bool)
+{
+	SelectedComponents.Empty();
+	if (bNoteSelectionChange)
+	{
+		++SelectionNotes;
+	}
+}
+
+void UEditorEngine::SelectComponent(UActorComponent* Component, bool bInSelected, bool bNotify, bool)
+{
+	const TWeakObjectPtr<UActorComponent> Weak(Component);
+	if (!Component || SelectedComponents.Contains(Weak) == bInSelected)
+	{
+		return;
+	}
+	if (bInSelected)
+	{
+		SelectedComponents.Add(Weak);
+	}
+	else
+	{
+		SelectedComponents.Remove(Weak);
+	}
+	if (bNotify)
+	{
+		++SelectionNotes;
+	}
+}
+
+UObject* UEditorEngine::GetEditorSubsystemBase(UClass* SubsystemClass)
+{
+	for (const TObjectPtr<UEditorSubsystem>& Subsystem : Subsystems)
+	{
+		if (Subsystem->GetClass() == SubsystemClass)
+		{
+			return Subsystem;
+		}
+	}
+	if (bExiting)
+	{
+		return nullptr;
+	}
+	UEditorSubsystem* const Subsystem = NewObject<UEditorSubsystem>(this, SubsystemClass, NAME_None, RF_Transient);
+	Subsystems.Add(Subsystem);
+	return Subsystem;
+}
+
+void UEditorEngine::AddViewportClient(FEditorViewportClient* ViewportClient)
+{
+	AllViewportClients.AddUnique(ViewportClient);
+}
+
+void UEditorEngine::RemoveViewportClient(FEditorViewportClient* ViewportClient)
+{
+	AllViewportClients.Remove(ViewportClient);
+}
+
+namespace Host
+{
+/** Lets the functions of the host look into the editor without its header saying more than the engine's does. */
+struct FEditorAccess
+{
+	static const UEditorEngine& Editor()
+	{
+		check(GEditor);
+		return *GEditor;
+	}
+	static TArray<UActorComponent*> Selected()
+	{
+		TArray<UActorComponent*> Result;
+		for (const TWeakObjectPtr<UActorComponent>& Weak : Editor().SelectedComponents)
+		{
+			if (UActorComponent* const Component = Weak.Get())
+			{
+				Result.Add(Component);
+			}
+		}
+		return Result;
+	}
+	static int32 SelectionNotes() { return Editor().SelectionNotes; }
+	static int32 UndoClients() { return Editor().UndoClients.Num(); }
+};
+
+TArray<UActorComponent*> SelectedComponents()
+{
+	return FEditorAccess::Selected();
+}
+
+int32 SelectionNoteCount()
+{
+	return FEditorAccess::SelectionNotes();
+}
+
+int32 UndoClientCount()
+{
+	return FEditorAccess::UndoClients();
+}
+} // namespace Host

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// The viewport of an asset editor, one of the panes of a tab.
+#pragma once
+
+#include "AssetEditorViewportLayout.h"
+#include "SEditorViewport.h"
+
+class FViewportTabContent;
+
+class SAssetEditorViewport : public SEditorViewport
+{
+public:
+	SLATE_BEGIN_ARGS(SAssetEditorViewport) {}
+	SLATE_END_ARGS()
+
+	SAssetEditorViewport();
+	virtual ~SAssetEditorViewport() override;
+
+	void Construct(const FArguments& InArgs, const FAssetEditorViewportConstructionArgs& InViewportConstructionArgs);
+
+	/** The tab content that holds this viewport; empty for none. */
+	void SetParentTabContent(const TWeakPtr<FViewportTabContent>& InParentTabContent)
+	{
+		ParentTabContent = InParentTabContent;
+	}
+	/** True for the arrangement of panes that this viewport stands in. */
+	bool IsViewportConfigurationSet(FName ConfigurationName) const;
+
+protected:
+	virtual void BindCommands() override;
+	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
+
+	TWeakPtr<FViewportTabContent> ParentTabContent;
+	FName ConfigKey;
+};
