@@ -218,7 +218,12 @@ private:
 				continue;
 			}
 			const FToken& Token = Stream.Next();
-			if (Token.IsIdentifier() && Stream.Peek().Is("("))
+			if (Token.Is("~"))
+			{
+				// The name of a destructor must not be taken for a constructor.
+				Stream.Next();
+			}
+			else if (Token.IsIdentifier() && Stream.Peek().Is("("))
 			{
 				ParseMember(Type, bClass, Token);
 			}
