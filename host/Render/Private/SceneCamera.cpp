@@ -143,6 +143,18 @@ void PlaceFloor(FSurroundings& Surroundings, const FSceneBounds& Bounds)
 	Surroundings.FloorRadius = std::max(Bounds.Radius() * 3.2f, 1.0f);
 }
 
+void LookAtScene(FSceneSnapshot& Scene, float Pitch, float Yaw, float HorizontalFov, float Aspect)
+{
+	LookAtSceneFrom(Scene, FrameBounds(BoundsOf(Scene.Objects), Pitch, Yaw, HorizontalFov, Aspect));
+}
+
+void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera)
+{
+	Scene.Camera = Camera;
+	Scene.Lights = StudioLights(Camera);
+	PlaceFloor(Scene.Surroundings, BoundsOf(Scene.Objects));
+}
+
 FClipMatrix ViewProjection(const FCameraSnapshot& Camera, float Aspect, float Near, float Far)
 {
 	const float ScaleX = 1.0f / std::tan(Camera.HorizontalFov * 0.5f * RadiansPerDegree);

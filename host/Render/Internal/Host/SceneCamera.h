@@ -51,6 +51,16 @@ std::vector<FLightSnapshot> StudioLights(const FCameraSnapshot& Camera);
 /** Sets floor point and size to what stands under the box. */
 void PlaceFloor(FSurroundings& Surroundings, const FSceneBounds& Bounds);
 
+/**
+ * Sets camera, lights and floor of a scene so that all of its objects are in view.
+ *
+ * @param Pitch, Yaw  degrees: the direction of looking, so that yaw 180 sees the side that faces +X
+ */
+void LookAtScene(FSceneSnapshot& Scene, float Pitch, float Yaw, float HorizontalFov, float Aspect);
+
+/** Sets camera, lights and floor of a scene for a view that somebody has chosen. */
+void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera);
+
 /** A 4 x 4 matrix by columns, as OpenGL takes it: clip = M * (x, y, z, 1). */
 using FClipMatrix = std::array<float, 16>;
 
