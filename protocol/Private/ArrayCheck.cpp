@@ -157,7 +157,7 @@ FLinkFault CheckWeights(const FArrayRule& Rule, const FBoneWeight* Pairs, std::u
 	{
 		return {};
 	}
-	std::string Path = Rule.Prefix + "/VertexInfluences";
+	std::string Path = std::string(Rule.Prefix) + "/VertexInfluences";
 	if (Rule.FirstWeight != nullptr)
 	{
 		const std::uint32_t* End = Rule.FirstWeight + Rule.FirstWeightCount;
@@ -180,15 +180,15 @@ FLinkFault CheckTimes(const FArrayRule& Rule, const double* Times, std::uint64_t
 {
 	for (std::uint64_t Index = First; Index < Last; ++Index)
 	{
-		const std::string Path = "/Sequence/Frames/" + std::to_string(Index) + "/Time";
+		const std::string Path = Rule.Prefix + ("/Sequence/Frames/" + std::to_string(Index) + "/Time");
 		if (!std::isfinite(Times[Index]))
 		{
-			return MakeFault(EFault::NotFinite, Rule.Prefix + Path,
-				"A finite number was expected; this one is " + Number(Times[Index]) + ".");
+			return MakeFault(
+				EFault::NotFinite, Path, "A finite number was expected; this one is " + Number(Times[Index]) + ".");
 		}
 		if (Index > 0 && Times[Index] < Times[Index - 1])
 		{
-			return MakeFault(EFault::TimeOrder, Rule.Prefix + Path,
+			return MakeFault(EFault::TimeOrder, Path,
 				"At least " + std::to_string(Times[Index - 1]) + " seconds were expected; " +
 					std::to_string(Times[Index]) + " came.");
 		}

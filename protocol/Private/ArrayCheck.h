@@ -26,8 +26,8 @@ struct FArrayRule
 	/** Weights: the offsets that say which vertex a weight belongs to; for reports. Not owned, may be null. */
 	const std::uint32_t* FirstWeight = nullptr;
 	std::uint64_t FirstWeightCount = 0;
-	/** In front of every path. */
-	std::string Prefix;
+	/** In front of every path: "" or "/Mesh". A literal. */
+	const char* Prefix = "";
 };
 
 /** The rule of a slot of a mesh; the structure must have passed CheckStructure. */

@@ -75,18 +75,22 @@ public:
 	/** Takes the next stretch of the arrays of the item that Header began. */
 	EDecode Piece(std::uint64_t ItemNumber, std::uint64_t Offset, FByteView Bytes);
 
-	/** Drops what is unfinished, for instance because nothing arrives any more; the result says what was dropped. */
+	/** Drops the item that waits for pieces, for instance because none arrive; None when there is no such item. */
 	FLinkFault Abandon(EFault Code, const std::string& Message);
 
-	/** True while an item waits for pieces, or a sequence for its end. */
-	bool IsUnfinished() const;
+	/** True while an item waits for pieces. */
+	bool IsItemOpen() const;
+
+	/** The kind of the item that the last Header began; None when it could not be read. */
+	EItem CurrentItem() const;
 
 	/** Number of the item that Fault is about. */
 	std::uint64_t FaultItem() const;
 	const FLinkFault& Fault() const;
 
-	/** The fault of an item that the last Header cut off; None most of the time. Forgets it. */
-	FLinkFault TakeTruncation();
+	/** The fault of an item or sequence that the last Header cut off, with the item's number; None mostly. Forgets it.
+	 */
+	FLinkFault TakeTruncation(std::uint64_t& OutItem);
 
 	/** The item, once after Complete. */
 	FDecodedItem Take();

@@ -11,11 +11,18 @@
 namespace Zef
 {
 
-/** One received item. Which members are filled follows from the item: Sequence of a joint animation, Frames of a mesh
- * sequence. */
-class FReceivedRecord : public IRecordSink
+class FVectorPools;
+
+/**
+ * One received item. Which members are filled follows from the item: Sequence of a joint animation, Frames of a mesh
+ * sequence. Members may be moved out; what is left goes back to the pool with the record.
+ */
+class FReceivedRecord final : public IRecordSink
 {
 public:
+	explicit FReceivedRecord(std::shared_ptr<FVectorPools> InPools);
+	~FReceivedRecord() override;
+
 	/** Of SurfaceMesh and SequenceBegin, and the mesh of a joint animation. */
 	FSurfaceMesh SurfaceMesh;
 	FJointSequence Sequence;
@@ -26,13 +33,21 @@ public:
 	void JointSequence(FPackedJointSequence&& Packed) override;
 	void Frame(std::uint32_t Index, double Time) override;
 	void Finish() override;
+
+private:
+	std::shared_ptr<FVectorPools> Pools;
 };
 
-/** Factory of FReceivedRecord. */
+/** Factory of FReceivedRecord; its pool lives as long as the last record. */
 class FRecordFactory final : public IRecordFactory
 {
 public:
+	FRecordFactory();
+
 	std::unique_ptr<IRecordSink> MakeSink(EItem Item, EObjectType ObjectType) override;
+
+private:
+	std::shared_ptr<FVectorPools> Pools;
 };
 
 /** Client handler that sees plain records; for endpoints opened with an FRecordFactory. */

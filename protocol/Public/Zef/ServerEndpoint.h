@@ -95,7 +95,7 @@ public:
 	static TResult<std::unique_ptr<FServerEndpoint>> Open(
 		const std::string& ChannelName, const FServerOptions& Options = {});
 
-	/** The same for an endpoint in ZeroMQ's notation; "ipc://*" and "tcp://127.0.0.1:*" choose a free one. */
+	// The same for an endpoint in ZeroMQ's notation; "ipc://*" and "tcp://127.0.0.1:*" choose a free one.
 	static TResult<std::unique_ptr<FServerEndpoint>> OpenEndpoint(
 		const std::string& Endpoint, const FServerOptions& Options = {});
 

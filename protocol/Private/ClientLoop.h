@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+/** The thread of an editor's endpoint, and the queues between it and the program. */
+#pragma once
+
+#include "Session.h"
+#include "Zef/ClientEndpoint.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <thread>
+
+namespace Zef
+{
+
+class FClientEndpoint::FImpl : public ISessionEvents
+{
+public:
+	FImpl(std::string InName, FAddress InAddress, std::shared_ptr<IRecordFactory> InFactory,
+		const FClientOptions& InOptions);
+	~FImpl() override;
+
+	void Start();
+	void Stop();
+	bool IsConnected() const;
+	const FClientOptions& ClientOptions() const { return Options; }
+	std::size_t Poll(IClientHandler& Handler, std::chrono::milliseconds MaxWait);
+	bool Send(FEncodedItem&& Item);
+
+private:
+	using FClock = FSession::FClock;
+
+	enum class EPhase : std::uint8_t
+	{
+		/** The first attempts are under way; nothing is known yet. */
+		Searching,
+		/** Nobody answers; attempts go on. */
+		Absent,
+		/** Connected; the answer to the greeting is awaited. */
+		Greeting,
+		/** Greeted. */
+		Up,
+		/** Turned away; the next attempt comes later. */
+		Refused
+	};
+
+	enum class EEvent : std::uint8_t
+	{
+		Decoded,
+		Connection,
+		Fault
+	};
+
+	/** Something for the program. */
+	struct FEvent
+	{
+		EEvent Kind = EEvent::Decoded;
+		FDecodedItem Item;
+		FReceiveReport Report;
+		bool bFlag = false; // Connection: connected. Fault: from the peer
+		std::string Reason;
+		FLinkFault Fault;
+		std::uint64_t Cost = 0;
+	};
+
+	/** A request that waits for the link to come up. */
+	struct FHeldItem
+	{
+		FEncodedItem Item;
+		FClock::time_point Deadline;
+	};
+
+	// On the thread
+	void Run();
+	void OpenSocket();
+	void CloseSocket();
+	void TakeTurn();
+	void WatchConnection();
+	void OnTransportUp();
+	void OnTransportDown(const std::string& Reason);
+	void ReceiveAll();
+	void Receive(std::vector<zmq::message_t>& Parts, bool bTooManyParts);
+	void ReceiveAnswer(const std::optional<FPrefix>& Prefix, const std::vector<zmq::message_t>& Parts);
+	void TurnedAway(const FLinkFault& Fault);
+	void Serve();
+	void KeepTime();
+	std::chrono::milliseconds WaitTime() const;
+	void OnDecoded(FDecodedItem&& Item, double Milliseconds) override;
+	void OnDropped(const FLinkFault& Fault) override;
+
+	// Under the mutex
+	void SetPhase(EPhase NewPhase, const std::string& Reason);
+	void FailHeld(FClock::time_point Until);
+	void PushLoss(const std::string& Reason);
+	void Push(FEvent&& Event);
+
+	static void Deliver(FEvent& Event, IClientHandler& Handler);
+
+	const std::string Name;
+	const FAddress Address;
+	const std::shared_ptr<IRecordFactory> Factory;
+	const FClientOptions Options;
+
+	mutable std::mutex Mutex;
+	std::condition_variable HasEvents;
+	EPhase Phase = EPhase::Searching;
+	std::string AbsenceReason;
+	std::deque<FEvent> Events;
+	std::uint64_t WaitingCost = 0;
+	bool bLossWaits = false; // a loss is among the events and nothing after it tells of a link
+	std::deque<FHeldItem> Held;
+	std::deque<FEncodedItem> Commands;
+
+	// Of the thread
+	FClock::time_point PhaseDeadline = FClock::time_point::max();
+	bool bDisconnected = false; // the transport is gone; what it still delivered is taken first
+	std::string LastRefusal;
+	std::unique_ptr<FSession> Session;
+
+	std::atomic<bool> bEnd{false};
+	std::atomic<bool> bStopped{false};
+	zmq::context_t Context;
+	FWaker Waker;
+	std::optional<zmq::socket_t> Dealer;
+	std::optional<FMonitor> Monitor;
+	std::thread Thread;
+};
+
+} // namespace Zef

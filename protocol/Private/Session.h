@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+/** One greeted connection, the same at both ends: what goes out, what comes in, and the window of each direction. */
+#pragma once
+
+#include "Outbox.h"
+#include "Sockets.h"
+#include "Zef/Decode.h"
+
+#include <chrono>
+
+namespace Zef
+{
+
+/** Told by a session about what arrived; on the endpoint's thread. */
+class ISessionEvents
+{
+public:
+	virtual ~ISessionEvents() = default;
+
+	virtual void OnDecoded(FDecodedItem&& Item, double Milliseconds) = 0;
+	/** This end dropped something; the other end has been told. */
+	virtual void OnDropped(const FLinkFault& Fault) = 0;
+};
+
+class FSession
+{
+public:
+	using FClock = std::chrono::steady_clock;
+
+	/** @param Identity  of the peer at a ROUTER, empty at a DEALER */
+	FSession(zmq::socket_t& InSocket, std::string InIdentity, IRecordFactory& Factory, EReceiver Receiver,
+		const FLimits& InLimits, ISessionEvents& InEvents);
+
+	/** The greeting is done; the other end's window is known. */
+	void Open(std::uint64_t PeerWindowBytes, std::uint32_t PeerMaxPieceBytes);
+
+	FOutbox& Outbox() { return Out; }
+
+	/** Handles one message other than the greeting's. Parts are what follows the prefix. */
+	void Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart);
+
+	/** Tells the other end that a message was dropped before it could be understood. */
+	void ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber = 0);
+
+	/** Sends what the window allows. False when the peer is gone. */
+	bool Pump();
+
+	/** Tells the other end what has been taken. @param bHold  too much waits for the program: credit later */
+	bool SendCredit(bool bHold);
+
+	/** Drops an item whose pieces have stopped coming. */
+	void DropStalled(FClock::time_point Now, std::chrono::milliseconds StallTime);
+
+	/** When DropStalled is to be asked again; max when no item is open. */
+	FClock::time_point StallDeadline(std::chrono::milliseconds StallTime) const;
+
+private:
+	void HandleResult(EDecode Result);
+
+	zmq::socket_t& Socket;
+	const std::string Identity;
+	ISessionEvents& Events;
+	FItemDecoder Decoder;
+	FOutbox Out;
+	std::uint64_t Taken = 0;
+	std::uint64_t Credited = 0;
+	FClock::time_point ItemStart;
+	FClock::time_point SequenceStart;
+	FClock::time_point LastArrival;
+};
+
+} // namespace Zef
