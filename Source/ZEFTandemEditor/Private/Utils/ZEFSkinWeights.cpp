@@ -54,8 +54,7 @@ FQuantizedInfluences::FQuantizedInfluences(const TArray<FZEFVertexInfluence>& In
 			}
 		}
 		TArrayView<FQuantizedInfluence> OfVertex = MakeArrayView(Packed.GetData() + First, Packed.Num() - First);
-		OfVertex.StableSort(
-			[](const FQuantizedInfluence& A, const FQuantizedInfluence& B) { return A.Weight > B.Weight; });
+		OfVertex.Sort([](const FQuantizedInfluence& A, const FQuantizedInfluence& B) { return A.Weight > B.Weight; });
 		FirstOfVertex.Add(Packed.Num());
 	}
 }

@@ -186,7 +186,7 @@ public:
 	{
 		return InUserObject && Instance && Instance->GetUserObject() == InUserObject;
 	}
-	const void* GetUObject() const { return Instance ? Instance->GetUserObject() : nullptr; }
+	const void* GetObjectForTimerManager() const { return Instance ? Instance->GetUserObject() : nullptr; }
 
 private:
 	explicit TDelegate(const TSharedRef<FInstance>& InInstance)
