@@ -55,17 +55,15 @@ FDynamicMesh3& FDynamicMesh3::operator=(const FDynamicMesh3& CopyMesh)
 	{
 		return *this;
 	}
-	VertexRefCounts = CopyMesh.VertexRefCounts;
-	TriangleRefCounts = CopyMesh.TriangleRefCounts;
-	EdgeRefCounts = CopyMesh.EdgeRefCounts;
+	Vertices = CopyMesh.Vertices;
+	Triangles = CopyMesh.Triangles;
+	Edges = CopyMesh.Edges;
+	HubEdges = CopyMesh.HubEdges;
 	Positions = CopyMesh.Positions;
-	VertexEdges = CopyMesh.VertexEdges;
 	VertexNormals = CopyMesh.VertexNormals;
 	VertexColors = CopyMesh.VertexColors;
 	VertexUVs = CopyMesh.VertexUVs;
-	Triangles = CopyMesh.Triangles;
 	TriangleGroups = CopyMesh.TriangleGroups;
-	Edges = CopyMesh.Edges;
 	AttributeSet.Reset();
 	if (CopyMesh.AttributeSet.IsValid())
 	{
@@ -80,17 +78,15 @@ FDynamicMesh3& FDynamicMesh3::operator=(FDynamicMesh3&& MoveMesh)
 	{
 		return *this;
 	}
-	VertexRefCounts = MoveTemp(MoveMesh.VertexRefCounts);
-	TriangleRefCounts = MoveTemp(MoveMesh.TriangleRefCounts);
-	EdgeRefCounts = MoveTemp(MoveMesh.EdgeRefCounts);
+	Vertices = MoveTemp(MoveMesh.Vertices);
+	Triangles = MoveTemp(MoveMesh.Triangles);
+	Edges = MoveTemp(MoveMesh.Edges);
+	HubEdges = MoveTemp(MoveMesh.HubEdges);
 	Positions = MoveTemp(MoveMesh.Positions);
-	VertexEdges = MoveTemp(MoveMesh.VertexEdges);
 	VertexNormals = MoveTemp(MoveMesh.VertexNormals);
 	VertexColors = MoveTemp(MoveMesh.VertexColors);
 	VertexUVs = MoveTemp(MoveMesh.VertexUVs);
-	Triangles = MoveTemp(MoveMesh.Triangles);
 	TriangleGroups = MoveTemp(MoveMesh.TriangleGroups);
-	Edges = MoveTemp(MoveMesh.Edges);
 	AttributeSet = MoveTemp(MoveMesh.AttributeSet);
 	if (AttributeSet.IsValid())
 	{
@@ -102,54 +98,40 @@ FDynamicMesh3& FDynamicMesh3::operator=(FDynamicMesh3&& MoveMesh)
 
 void FDynamicMesh3::Clear()
 {
-	VertexRefCounts = FRefCountVector();
-	TriangleRefCounts = FRefCountVector();
-	EdgeRefCounts = FRefCountVector();
+	Vertices = TRecordPool<FVertex>();
+	Triangles = TRecordPool<FTriangle>();
+	Edges = TRecordPool<FEdge>();
+	HubEdges.Empty();
 	Positions.Empty();
-	VertexEdges.Empty();
 	VertexNormals.Reset();
 	VertexColors.Reset();
 	VertexUVs.Reset();
-	Triangles.Empty();
 	TriangleGroups.Reset();
-	Edges.Empty();
 	AttributeSet.Reset();
-}
-
-int FDynamicMesh3::AllocateVertex(const FVector3d& Position)
-{
-	const int VertexID = VertexRefCounts.Allocate();
-	if (VertexID == Positions.Num())
-	{
-		Positions.Add(Position);
-		VertexEdges.AddDefaulted();
-	}
-	else
-	{
-		Positions[VertexID] = Position;
-		VertexEdges[VertexID] = FVertexEdges();
-	}
-	return VertexID;
 }
 
 namespace
 {
 /** Stores the value of a vertex or triangle whose id is new at the array's end or used again. */
-template <typename ValueType, typename IdType>
-void StoreAt(TOptional<TArray<ValueType>>& Values, IdType Id, const ValueType& Value)
+template <typename ArrayType, typename ValueType>
+void StoreAt(ArrayType& Values, int Id, const ValueType& Value)
 {
-	if (!Values.IsSet())
+	if (Id == Values.Num())
 	{
-		return;
-	}
-	TArray<ValueType>& Array = Values.GetValue();
-	if (Id == Array.Num())
-	{
-		Array.Add(Value);
+		Values.Add(Value);
 	}
 	else
 	{
-		Array[Id] = Value;
+		Values[Id] = Value;
+	}
+}
+
+template <typename ValueType>
+void StoreAt(TOptional<TArray<ValueType>>& Values, int Id, const ValueType& Value)
+{
+	if (Values.IsSet())
+	{
+		StoreAt(Values.GetValue(), Id, Value);
 	}
 }
 
@@ -166,7 +148,8 @@ void EnableArray(TOptional<TArray<ValueType>>& Values, int Num, const ValueType&
 
 int FDynamicMesh3::AppendVertex(const FVertexInfo& VertInfo)
 {
-	const int VertexID = AllocateVertex(VertInfo.Position);
+	const int VertexID = Vertices.Add(FVertex());
+	StoreAt(Positions, VertexID, VertInfo.Position);
 	StoreAt(VertexNormals, VertexID, VertInfo.bHaveN ? VertInfo.Normal : FVector3f(0.0f, 1.0f, 0.0f));
 	StoreAt(VertexColors, VertexID, VertInfo.bHaveC ? VertInfo.Color : FVector3f(1.0f, 1.0f, 1.0f));
 	StoreAt(VertexUVs, VertexID, VertInfo.bHaveUV ? VertInfo.UV : FVector2f(0.0f, 0.0f));
@@ -267,7 +250,7 @@ FAxisAlignedBox3d FDynamicMesh3::GetBounds(bool) const
 	FAxisAlignedBox3d Bounds = FAxisAlignedBox3d::Empty();
 	for (const int VertexID : VertexIndicesItr())
 	{
-		Bounds.Contain(Positions.GetData()[VertexID]);
+		Bounds.Contain(Positions.At(VertexID));
 	}
 	return Bounds;
 }

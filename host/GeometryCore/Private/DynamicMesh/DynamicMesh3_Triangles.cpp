@@ -7,28 +7,37 @@
 namespace UE::Geometry
 {
 
+namespace
+{
+/**
+ * Longest list of edges that is looked through. Vertices of ordinary meshes have about six edges, and a list in memory
+ * order is read faster than a hash table; beyond some dozens it is the other way round.
+ */
+constexpr int32 MaxListedEdges = 32;
+} // namespace
+
 int& FDynamicMesh3::NextEdge(int VertexID, int EdgeID)
 {
-	FEdge& Edge = Edges.GetData()[EdgeID];
+	FEdge& Edge = Edges.At(EdgeID);
 	return Edge.Vert.A == VertexID ? Edge.Next.A : Edge.Next.B;
 }
 
-int FDynamicMesh3::FindEdge(int VertexA, int VertexB) const
+int FDynamicMesh3::FindEdgeBetween(int IdA, const FVertex& A, int IdB, const FVertex& B) const
 {
-	if (VertexA == VertexB || !IsVertex(VertexA) || !IsVertex(VertexB))
+	// Every edge hangs in the lists of both its vertices, so the shorter list is enough: a fan costs its centre
+	// nothing.
+	const bool bFromA = A.NumEdges <= B.NumEdges;
+	const int From = bFromA ? IdA : IdB;
+	const int To = bFromA ? IdB : IdA;
+	if (A.bHub && B.bHub)
 	{
-		return InvalidID;
+		const int32* const Found = HubEdges.Find(FHubEdgeKey(IdA, IdB));
+		return Found != nullptr ? *Found : InvalidID;
 	}
-	// Every edge hangs in the lists of both its vertices; the shorter list keeps a vertex with a huge fan cheap.
-	const FVertexEdges* const Lists = VertexEdges.GetData();
-	const bool bFromA = Lists[VertexA].Num <= Lists[VertexB].Num;
-	const int From = bFromA ? VertexA : VertexB;
-	const int To = bFromA ? VertexB : VertexA;
-	const FEdge* const AllEdges = Edges.GetData();
-	int EdgeID = Lists[From].First;
+	int EdgeID = bFromA ? A.FirstEdge : B.FirstEdge;
 	while (EdgeID != InvalidID)
 	{
-		const FEdge& Edge = AllEdges[EdgeID];
+		const FEdge& Edge = Edges.At(EdgeID);
 		const bool bFirst = Edge.Vert.A == From;
 		if ((bFirst ? Edge.Vert.B : Edge.Vert.A) == To)
 		{
@@ -39,6 +48,15 @@ int FDynamicMesh3::FindEdge(int VertexA, int VertexB) const
 	return EdgeID;
 }
 
+int FDynamicMesh3::FindEdge(int VertexA, int VertexB) const
+{
+	if (VertexA == VertexB || !IsVertex(VertexA) || !IsVertex(VertexB))
+	{
+		return InvalidID;
+	}
+	return FindEdgeBetween(VertexA, Vertices[VertexA], VertexB, Vertices[VertexB]);
+}
+
 int FDynamicMesh3::FindTriangle(int A, int B, int C) const
 {
 	const int EdgeID = FindEdge(A, B);
@@ -47,11 +65,11 @@ int FDynamicMesh3::FindTriangle(int A, int B, int C) const
 		return InvalidID;
 	}
 	const FIndex2i Tri = Edges[EdgeID].Tri;
-	if (Triangles[Tri.A].Contains(C))
+	if (Triangles[Tri.A].Vert.Contains(C))
 	{
 		return Tri.A;
 	}
-	return Tri.B != InvalidID && Triangles[Tri.B].Contains(C) ? Tri.B : InvalidID;
+	return Tri.B != InvalidID && Triangles[Tri.B].Vert.Contains(C) ? Tri.B : InvalidID;
 }
 
 FIndex3i FDynamicMesh3::GetTriEdges(int TriangleID) const
@@ -66,12 +84,16 @@ int FDynamicMesh3::AppendTriangle(const FIndex3i& TriVertices, int GroupID)
 	const int A = TriVertices.A;
 	const int B = TriVertices.B;
 	const int C = TriVertices.C;
-	if (A == B || B == C || C == A || !IsVertex(A) || !IsVertex(B) || !IsVertex(C))
+	FVertex* const VertexA = Vertices.Find(A);
+	FVertex* const VertexB = Vertices.Find(B);
+	FVertex* const VertexC = Vertices.Find(C);
+	if (A == B || B == C || C == A || VertexA == nullptr || VertexB == nullptr || VertexC == nullptr)
 	{
 		return InvalidID;
 	}
 
-	const int EdgeIDs[3] = {FindEdge(A, B), FindEdge(B, C), FindEdge(C, A)};
+	const int EdgeIDs[3] = {FindEdgeBetween(A, *VertexA, B, *VertexB), FindEdgeBetween(B, *VertexB, C, *VertexC),
+		FindEdgeBetween(C, *VertexC, A, *VertexA)};
 	for (const int EdgeID : EdgeIDs)
 	{
 		if (EdgeID != InvalidID && !IsBoundaryEdge(EdgeID))
@@ -80,20 +102,12 @@ int FDynamicMesh3::AppendTriangle(const FIndex3i& TriVertices, int GroupID)
 		}
 	}
 	if (EdgeIDs[0] != InvalidID && EdgeIDs[1] != InvalidID && EdgeIDs[2] != InvalidID &&
-		Triangles[Edges[EdgeIDs[0]].Tri.A].Contains(C))
+		Triangles[Edges[EdgeIDs[0]].Tri.A].Vert.Contains(C))
 	{
 		return DuplicateTriangleID;
 	}
 
-	const int TriangleID = TriangleRefCounts.Allocate();
-	if (TriangleID == Triangles.Num())
-	{
-		Triangles.Add(TriVertices);
-	}
-	else
-	{
-		Triangles[TriangleID] = TriVertices;
-	}
+	const int TriangleID = Triangles.Add(FTriangle{TriVertices});
 	if (TriangleGroups.IsSet())
 	{
 		TArray<int32>& Groups = TriangleGroups.GetValue();
@@ -112,57 +126,74 @@ int FDynamicMesh3::AppendTriangle(const FIndex3i& TriVertices, int GroupID)
 	{
 		if (EdgeIDs[Side] != InvalidID)
 		{
-			Edges.GetData()[EdgeIDs[Side]].Tri.B = TriangleID;
+			Edges.At(EdgeIDs[Side]).Tri.B = TriangleID;
 		}
 		else
 		{
 			AddEdge(Corners[Side], Corners[Side + 1], TriangleID);
 		}
-		VertexRefCounts.Increment(Corners[Side]);
 	}
+	++VertexA->NumTriangles;
+	++VertexB->NumTriangles;
+	++VertexC->NumTriangles;
 	return TriangleID;
 }
 
 void FDynamicMesh3::AddEdge(int VertexA, int VertexB, int TriangleID)
 {
-	const int Low = VertexA < VertexB ? VertexA : VertexB;
-	const int High = VertexA < VertexB ? VertexB : VertexA;
-	const int EdgeID = EdgeRefCounts.Allocate();
-	FVertexEdges& AtLow = VertexEdges.GetData()[Low];
-	FVertexEdges& AtHigh = VertexEdges.GetData()[High];
-	const FEdge Edge{{Low, High}, {TriangleID, InvalidID}, {AtLow.First, AtHigh.First}};
-	if (EdgeID == Edges.Num())
+	const FIndex2i Vert = VertexA < VertexB ? FIndex2i(VertexA, VertexB) : FIndex2i(VertexB, VertexA);
+	const int EdgeID = Edges.Add(FEdge{Vert, {TriangleID, InvalidID}, InvalidEdge});
+	LinkEdge(VertexA, EdgeID);
+	LinkEdge(VertexB, EdgeID);
+	if (Vertices[VertexA].bHub && Vertices[VertexB].bHub)
 	{
-		Edges.Add(Edge);
+		HubEdges.Add(FHubEdgeKey(VertexA, VertexB), EdgeID);
 	}
-	else
+}
+
+void FDynamicMesh3::LinkEdge(int VertexID, int EdgeID)
+{
+	FVertex& Vertex = Vertices.At(VertexID);
+	NextEdge(VertexID, EdgeID) = Vertex.FirstEdge;
+	Vertex.FirstEdge = EdgeID;
+	if (++Vertex.NumEdges > MaxListedEdges && !Vertex.bHub)
 	{
-		Edges[EdgeID] = Edge;
+		MakeHub(VertexID);
 	}
-	AtLow.First = EdgeID;
-	++AtLow.Num;
-	AtHigh.First = EdgeID;
-	++AtHigh.Num;
+}
+
+void FDynamicMesh3::MakeHub(int VertexID)
+{
+	Vertices[VertexID].bHub = true;
+	for (int EdgeID = Vertices[VertexID].FirstEdge; EdgeID != InvalidID; EdgeID = NextEdge(VertexID, EdgeID))
+	{
+		const int Other = Edges[EdgeID].Vert.OtherElement(VertexID);
+		if (Vertices[Other].bHub)
+		{
+			HubEdges.Add(FHubEdgeKey(VertexID, Other), EdgeID);
+		}
+	}
 }
 
 void FDynamicMesh3::UnlinkEdge(int VertexID, int EdgeID)
 {
-	FVertexEdges& List = VertexEdges[VertexID];
-	int* Link = &List.First;
+	FVertex& Vertex = Vertices[VertexID];
+	int* Link = &Vertex.FirstEdge;
 	while (*Link != EdgeID)
 	{
 		Link = &NextEdge(VertexID, *Link);
 	}
 	*Link = NextEdge(VertexID, EdgeID);
-	--List.Num;
+	--Vertex.NumEdges;
 }
 
 void FDynamicMesh3::RemoveEdge(int EdgeID)
 {
-	UnlinkEdge(Edges[EdgeID].Vert.A, EdgeID);
-	UnlinkEdge(Edges[EdgeID].Vert.B, EdgeID);
-	Edges[EdgeID] = FEdge{InvalidEdge, InvalidEdge, InvalidEdge};
-	EdgeRefCounts.Decrement(EdgeID);
+	const FIndex2i Vert = GetEdgeV(EdgeID);
+	UnlinkEdge(Vert.A, EdgeID);
+	UnlinkEdge(Vert.B, EdgeID);
+	HubEdges.Remove(FHubEdgeKey(Vert.A, Vert.B));
+	Edges.Free(EdgeID);
 }
 
 EMeshResult FDynamicMesh3::RemoveTriangle(int TriangleID, bool bRemoveIsolatedVertices)
@@ -190,14 +221,13 @@ EMeshResult FDynamicMesh3::RemoveTriangle(int TriangleID, bool bRemoveIsolatedVe
 			RemoveEdge(EdgeIDs[Side]);
 		}
 	}
-	Triangles[TriangleID] = InvalidTriangle;
-	TriangleRefCounts.Decrement(TriangleID);
+	Triangles.Free(TriangleID);
 	for (int Corner = 0; Corner < 3; ++Corner)
 	{
-		VertexRefCounts.Decrement(Triangle[Corner]);
-		if (bRemoveIsolatedVertices && VertexRefCounts.GetRefCount(Triangle[Corner]) == 1)
+		const int VertexID = Triangle[Corner];
+		if (--Vertices[VertexID].NumTriangles == 0 && bRemoveIsolatedVertices)
 		{
-			VertexRefCounts.Decrement(Triangle[Corner]);
+			Vertices.Free(VertexID);
 		}
 	}
 	return EMeshResult::Ok;

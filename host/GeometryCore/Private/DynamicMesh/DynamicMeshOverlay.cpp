@@ -17,27 +17,19 @@ TDynamicMeshOverlay<RealType, ElementSize>::TDynamicMeshOverlay(
 template <typename RealType, int ElementSize>
 void TDynamicMeshOverlay<RealType, ElementSize>::ClearElements()
 {
-	ElementRefCounts = FRefCountVector();
-	Elements.Empty();
-	ParentVertices.Empty();
+	Elements = TRecordPool<FElement>();
 	ElementTriangles.Empty();
 }
 
 template <typename RealType, int ElementSize>
 int TDynamicMeshOverlay<RealType, ElementSize>::AppendElement(const RealType* Value)
 {
-	const int ElementID = ElementRefCounts.Allocate();
-	if (ElementID == ParentVertices.Num())
+	FElement Element;
+	for (int Index = 0; Index < ElementSize; ++Index)
 	{
-		Elements.Append(Value, ElementSize);
-		ParentVertices.Add(IndexConstants::InvalidID);
+		Element.Value[Index] = Value[Index];
 	}
-	else
-	{
-		SetElement(ElementID, Value);
-		ParentVertices[ElementID] = IndexConstants::InvalidID;
-	}
-	return ElementID;
+	return Elements.Add(Element);
 }
 
 template <typename RealType, int ElementSize>
@@ -46,7 +38,7 @@ void TDynamicMeshOverlay<RealType, ElementSize>::SetElement(int ElementID, const
 	checkf(IsElement(ElementID), TEXT("no element %d"), ElementID);
 	for (int Index = 0; Index < ElementSize; ++Index)
 	{
-		Elements[ElementID * ElementSize + Index] = Value[Index];
+		Elements[ElementID].Value[Index] = Value[Index];
 	}
 }
 
@@ -56,14 +48,14 @@ void TDynamicMeshOverlay<RealType, ElementSize>::GetElement(int ElementID, RealT
 	checkf(IsElement(ElementID), TEXT("no element %d"), ElementID);
 	for (int Index = 0; Index < ElementSize; ++Index)
 	{
-		Data[Index] = Elements[ElementID * ElementSize + Index];
+		Data[Index] = Elements[ElementID].Value[Index];
 	}
 }
 
 template <typename RealType, int ElementSize>
 void TDynamicMeshOverlay<RealType, ElementSize>::InitializeNewTriangle(int TriangleID)
 {
-	if (ElementTriangles.IsValidIndex(TriangleID))
+	if (TriangleID >= 0 && TriangleID < ElementTriangles.Num())
 	{
 		ElementTriangles[TriangleID] = FIndex3i::Invalid();
 	}
@@ -77,7 +69,9 @@ EMeshResult TDynamicMeshOverlay<RealType, ElementSize>::SetTriangle(
 	{
 		return EMeshResult::Failed_NotATriangle;
 	}
-	if (!IsElement(TriElements.A) || !IsElement(TriElements.B) || !IsElement(TriElements.C))
+	FElement* const Corners[3] = {
+		Elements.Find(TriElements.A), Elements.Find(TriElements.B), Elements.Find(TriElements.C)};
+	if (Corners[0] == nullptr || Corners[1] == nullptr || Corners[2] == nullptr)
 	{
 		return EMeshResult::Failed_NotAVertex;
 	}
@@ -88,9 +82,14 @@ EMeshResult TDynamicMeshOverlay<RealType, ElementSize>::SetTriangle(
 
 	// The new uses come first, so that an element that stays is not freed in between.
 	const FIndex3i Old = GetTriangle(TriangleID);
-	ElementRefCounts.Increment(TriElements.A);
-	ElementRefCounts.Increment(TriElements.B);
-	ElementRefCounts.Increment(TriElements.C);
+	const FIndex3i Vertices = ParentMesh->GetTriangle(TriangleID);
+	Corners[0]->ParentVertex = Vertices.A;
+	Corners[1]->ParentVertex = Vertices.B;
+	Corners[2]->ParentVertex = Vertices.C;
+	for (FElement* const Corner : Corners)
+	{
+		++Corner->NumUses;
+	}
 	if (TriangleID == ElementTriangles.Num())
 	{
 		ElementTriangles.Add(TriElements);
@@ -107,12 +106,6 @@ EMeshResult TDynamicMeshOverlay<RealType, ElementSize>::SetTriangle(
 	{
 		ReleaseElements(Old, bAllowElementFreeing);
 	}
-
-	const FIndex3i Corners = ParentMesh->GetTriangle(TriangleID);
-	int32* const Parents = ParentVertices.GetData();
-	Parents[TriElements.A] = Corners.A;
-	Parents[TriElements.B] = Corners.B;
-	Parents[TriElements.C] = Corners.C;
 	return EMeshResult::Ok;
 }
 
@@ -133,19 +126,11 @@ void TDynamicMeshOverlay<RealType, ElementSize>::ReleaseElements(const FIndex3i&
 	for (int Corner = 0; Corner < 3; ++Corner)
 	{
 		const int ElementID = TriElements[Corner];
-		ElementRefCounts.Decrement(ElementID);
-		if (bAllowElementFreeing && ElementRefCounts.GetRefCount(ElementID) == 1)
+		if (--Elements[ElementID].NumUses == 0 && bAllowElementFreeing)
 		{
-			FreeElement(ElementID);
+			Elements.Free(ElementID);
 		}
 	}
-}
-
-template <typename RealType, int ElementSize>
-void TDynamicMeshOverlay<RealType, ElementSize>::FreeElement(int ElementID)
-{
-	ElementRefCounts.Decrement(ElementID);
-	ParentVertices[ElementID] = IndexConstants::InvalidID;
 }
 
 template <typename RealType, int ElementSize>
@@ -153,9 +138,9 @@ void TDynamicMeshOverlay<RealType, ElementSize>::FreeUnusedElements()
 {
 	for (int ElementID = 0; ElementID < MaxElementID(); ++ElementID)
 	{
-		if (ElementRefCounts.GetRefCount(ElementID) == 1)
+		if (Elements[ElementID].NumUses == 0)
 		{
-			FreeElement(ElementID);
+			Elements.Free(ElementID);
 		}
 	}
 }

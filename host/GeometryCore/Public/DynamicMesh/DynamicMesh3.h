@@ -4,13 +4,15 @@
 
 #include "BoxTypes.h"
 #include "Containers/Array.h"
+#include "Containers/Map.h"
 #include "DynamicMesh/InfoTypes.h"
 #include "GeometryTypes.h"
 #include "IndexTypes.h"
 #include "Misc/EnumClassFlags.h"
 #include "Misc/Optional.h"
 #include "Templates/UniquePtr.h"
-#include "Util/RefCountVector.h"
+#include "Util/BlockArray.h"
+#include "Util/RecordPool.h"
 
 namespace UE::Geometry
 {
@@ -60,25 +62,22 @@ public:
 
 	// Counts are of live ids; Max...ID() is one past the highest id ever used.
 
-	int VertexCount() const { return VertexRefCounts.GetCount(); }
-	int TriangleCount() const { return TriangleRefCounts.GetCount(); }
-	int EdgeCount() const { return EdgeRefCounts.GetCount(); }
-	int MaxVertexID() const { return VertexRefCounts.GetMaxIndex(); }
-	int MaxTriangleID() const { return TriangleRefCounts.GetMaxIndex(); }
-	int MaxEdgeID() const { return EdgeRefCounts.GetMaxIndex(); }
-	bool IsVertex(int VertexID) const { return VertexRefCounts.IsValid(VertexID); }
-	bool IsTriangle(int TriangleID) const { return TriangleRefCounts.IsValid(TriangleID); }
-	bool IsEdge(int EdgeID) const { return EdgeRefCounts.IsValid(EdgeID); }
+	int VertexCount() const { return Vertices.Num(); }
+	int TriangleCount() const { return Triangles.Num(); }
+	int EdgeCount() const { return Edges.Num(); }
+	int MaxVertexID() const { return Vertices.MaxID(); }
+	int MaxTriangleID() const { return Triangles.MaxID(); }
+	int MaxEdgeID() const { return Edges.MaxID(); }
+	bool IsVertex(int VertexID) const { return Vertices.IsLive(VertexID); }
+	bool IsTriangle(int TriangleID) const { return Triangles.IsLive(TriangleID); }
+	bool IsEdge(int EdgeID) const { return Edges.IsLive(EdgeID); }
 	/** Whether no id was freed. */
-	bool IsCompact() const
-	{
-		return VertexRefCounts.IsDense() && TriangleRefCounts.IsDense() && EdgeRefCounts.IsDense();
-	}
+	bool IsCompact() const { return Vertices.IsDense() && Triangles.IsDense() && Edges.IsDense(); }
 
 	/** Live ids in ascending order, for range-based loops. */
-	FRefCountVector::IndexEnumerable VertexIndicesItr() const { return VertexRefCounts.Indices(); }
-	FRefCountVector::IndexEnumerable TriangleIndicesItr() const { return TriangleRefCounts.Indices(); }
-	FRefCountVector::IndexEnumerable EdgeIndicesItr() const { return EdgeRefCounts.Indices(); }
+	auto VertexIndicesItr() const { return Vertices.Ids(); }
+	auto TriangleIndicesItr() const { return Triangles.Ids(); }
+	auto EdgeIndicesItr() const { return Edges.Ids(); }
 
 	// Queries. An id that is not live is a fault unless said otherwise.
 
@@ -90,7 +89,7 @@ public:
 	/** (0, 0) on a mesh without vertex texture coordinates. */
 	FVector2f GetVertexUV(int VertexID) const;
 	/** Vertex ids in the order in which they were appended. */
-	FIndex3i GetTriangle(int TriangleID) const { return Triangles[TriangleID]; }
+	FIndex3i GetTriangle(int TriangleID) const { return Triangles[TriangleID].Vert; }
 	/** Positions of the three corners. */
 	void GetTriVertices(int TriangleID, FVector3d& V0, FVector3d& V1, FVector3d& V2) const;
 	/** Ids of the edges AB, BC and CA. */
@@ -173,6 +172,29 @@ public:
 	const FDynamicMeshAttributeSet* Attributes() const { return AttributeSet.Get(); }
 
 private:
+	/** What hangs on a vertex. */
+	struct FVertex
+	{
+		/** The list of its edges. */
+		int32 FirstEdge = InvalidID;
+		int32 NumEdges = 0;
+		/** -1 for a free id. */
+		int32 NumTriangles = 0;
+		/** Whether the vertex once had so many edges that looking through them all is slow. */
+		bool bHub = false;
+
+		bool IsLive() const { return NumTriangles >= 0; }
+		void MakeFree() { NumTriangles = -1; }
+	};
+
+	struct FTriangle
+	{
+		FIndex3i Vert;
+
+		bool IsLive() const { return Vert.A >= 0; }
+		void MakeFree() { Vert = InvalidTriangle; }
+	};
+
 	/** An edge, and where the lists of edges at its two vertices go on. */
 	struct FEdge
 	{
@@ -181,35 +203,49 @@ private:
 		FIndex2i Tri;
 		/** Next edge at Vert.A and at Vert.B. */
 		FIndex2i Next;
+
+		bool IsLive() const { return Vert.A >= 0; }
+		void MakeFree() { Vert = Tri = Next = InvalidEdge; }
 	};
 
-	/** The list of edges at a vertex. */
-	struct FVertexEdges
+	/** The vertices of an edge as a key. */
+	struct FHubEdgeKey
 	{
-		int32 First = InvalidID;
-		int32 Num = 0;
+		FIndex2i Vert;
+
+		FHubEdgeKey(int VertexA, int VertexB)
+			: Vert(VertexA < VertexB ? FIndex2i(VertexA, VertexB) : FIndex2i(VertexB, VertexA))
+		{
+		}
+		bool operator==(const FHubEdgeKey& Other) const = default;
+		friend uint32 GetTypeHash(const FHubEdgeKey& Key)
+		{
+			// The ids are small and dense, so both need to be spread over all bits.
+			const uint64 Both = uint64{static_cast<uint32>(Key.Vert.A)} << 32 | static_cast<uint32>(Key.Vert.B);
+			return static_cast<uint32>((Both * 0x9E3779B97F4A7C15ull) >> 32);
+		}
 	};
 
-	int AllocateVertex(const FVector3d& Position);
+	int FindEdgeBetween(int IdA, const FVertex& A, int IdB, const FVertex& B) const;
 	void AddEdge(int VertexA, int VertexB, int TriangleID);
 	void RemoveEdge(int EdgeID);
+	void LinkEdge(int VertexID, int EdgeID);
 	void UnlinkEdge(int VertexID, int EdgeID);
 	int& NextEdge(int VertexID, int EdgeID);
+	void MakeHub(int VertexID);
 
-	FRefCountVector VertexRefCounts;
-	FRefCountVector TriangleRefCounts;
-	FRefCountVector EdgeRefCounts;
+	TRecordPool<FVertex> Vertices;
+	TRecordPool<FTriangle> Triangles;
+	TRecordPool<FEdge> Edges;
+	/** All edges between two hubs. */
+	TMap<FHubEdgeKey, int32> HubEdges;
 	/** [MaxVertexID()] */
-	TArray<FVector3d> Positions;
-	TArray<FVertexEdges> VertexEdges;
+	TBlockArray<FVector3d> Positions;
 	TOptional<TArray<FVector3f>> VertexNormals;
 	TOptional<TArray<FVector3f>> VertexColors;
 	TOptional<TArray<FVector2f>> VertexUVs;
 	/** [MaxTriangleID()] */
-	TArray<FIndex3i> Triangles;
 	TOptional<TArray<int32>> TriangleGroups;
-	/** [MaxEdgeID()] */
-	TArray<FEdge> Edges;
 	TUniquePtr<FDynamicMeshAttributeSet> AttributeSet;
 };
 

@@ -2,14 +2,14 @@
 /** Values at the corners of triangles, shared where the surface is continuous. */
 #pragma once
 
-#include "Containers/Array.h"
 #include "DynamicMesh/DynamicMesh3.h"
 #include "GeometryTypes.h"
 #include "IndexTypes.h"
 #include "Math/Vector.h"
 #include "Math/Vector2D.h"
 #include "Math/Vector4.h"
-#include "Util/RefCountVector.h"
+#include "Util/BlockArray.h"
+#include "Util/RecordPool.h"
 
 namespace UE::Geometry
 {
@@ -28,12 +28,12 @@ public:
 	}
 	TDynamicMeshOverlay(const TDynamicMeshOverlay& Other, const FDynamicMesh3* InParentMesh);
 
-	int ElementCount() const { return ElementRefCounts.GetCount(); }
+	int ElementCount() const { return Elements.Num(); }
 	/** One past the highest element id ever used. */
-	int MaxElementID() const { return ElementRefCounts.GetMaxIndex(); }
-	bool IsElement(int ElementID) const { return ElementRefCounts.IsValid(ElementID); }
+	int MaxElementID() const { return Elements.MaxID(); }
+	bool IsElement(int ElementID) const { return Elements.IsLive(ElementID); }
 	/** Live element ids in ascending order, for range-based loops. */
-	FRefCountVector::IndexEnumerable ElementIndicesItr() const { return ElementRefCounts.Indices(); }
+	auto ElementIndicesItr() const { return Elements.Ids(); }
 
 	/** Drops all elements and unsets all triangles. */
 	void ClearElements();
@@ -43,7 +43,7 @@ public:
 	void SetElement(int ElementID, const RealType* Value);
 	void GetElement(int ElementID, RealType* Data) const;
 	/** Mesh vertex of an element, InvalidID while no triangle has used it. */
-	int GetParentVertex(int ElementID) const { return ParentVertices[ElementID]; }
+	int GetParentVertex(int ElementID) const { return Elements[ElementID].ParentVertex; }
 
 	/** Makes the triangle one that has no elements, as a new one is. */
 	void InitializeNewTriangle(int TriangleID);
@@ -63,7 +63,7 @@ public:
 	/** Element ids at the corners, (-1, -1, -1) when unset. */
 	FIndex3i GetTriangle(int TriangleID) const
 	{
-		return TriangleID >= 0 && TriangleID < ElementTriangles.Num() ? ElementTriangles.GetData()[TriangleID]
+		return TriangleID >= 0 && TriangleID < ElementTriangles.Num() ? ElementTriangles.At(TriangleID)
 																	  : FIndex3i::Invalid();
 	}
 	/** Frees all elements that no triangle uses. */
@@ -76,19 +76,28 @@ public:
 	const FDynamicMesh3* GetParentMesh() const { return ParentMesh; }
 
 private:
+	struct FElement
+	{
+		RealType Value[ElementSize];
+		int32 ParentVertex = IndexConstants::InvalidID;
+		/** Triangle corners that use the element; -1 for a free id. */
+		int32 NumUses = 0;
+
+		bool IsLive() const { return NumUses >= 0; }
+		void MakeFree()
+		{
+			NumUses = -1;
+			ParentVertex = IndexConstants::InvalidID;
+		}
+	};
+
 	void ReleaseElements(const FIndex3i& TriElements, bool bAllowElementFreeing);
-	void FreeElement(int ElementID);
 
 	/** Not owned; it owns this. */
 	const FDynamicMesh3* ParentMesh;
-	/** 1 for being there, and 1 for each triangle corner that uses the element. */
-	FRefCountVector ElementRefCounts;
-	/** [MaxElementID() * ElementSize] */
-	TArray<RealType> Elements;
-	/** [MaxElementID()] */
-	TArray<int32> ParentVertices;
+	TRecordPool<FElement> Elements;
 	/** At most [MaxTriangleID()]; a triangle past its end is unset, so that appending triangles costs nothing here. */
-	TArray<FIndex3i> ElementTriangles;
+	TBlockArray<FIndex3i> ElementTriangles;
 };
 
 /** An overlay whose elements are vectors. */

@@ -2,8 +2,8 @@
 /** One value for each triangle of a mesh. */
 #pragma once
 
-#include "Containers/Array.h"
 #include "DynamicMesh/DynamicMesh3.h"
+#include "Util/BlockArray.h"
 
 namespace UE::Geometry
 {
@@ -29,14 +29,15 @@ public:
 	/** Gives all triangles up to the mesh's MaxTriangleID() the value. */
 	void Initialize(AttribValueType InitialValue = 0)
 	{
-		Values.Init(InitialValue, ParentMesh->MaxTriangleID() * AttribDimension);
+		Values.Empty();
+		GrowTo(ParentMesh->MaxTriangleID() - 1, InitialValue);
 	}
 
 	/** Data is [AttribDimension]; an id below 0 or past the mesh's MaxTriangleID() is a fault. */
 	void SetValue(int TriangleID, const AttribValueType* Data)
 	{
 		checkf(TriangleID >= 0 && TriangleID < ParentMesh->MaxTriangleID(), TEXT("no triangle %d"), TriangleID);
-		GrowTo(TriangleID);
+		GrowTo(TriangleID, AttribValueType(0));
 		for (int Index = 0; Index < AttribDimension; ++Index)
 		{
 			Values[TriangleID * AttribDimension + Index] = Data[Index];
@@ -68,19 +69,18 @@ public:
 	const FDynamicMesh3* GetParentMesh() const { return ParentMesh; }
 
 private:
-	void GrowTo(int TriangleID)
+	void GrowTo(int TriangleID, AttribValueType Value)
 	{
-		const int Needed = (TriangleID + 1) * AttribDimension;
-		if (Values.Num() < Needed)
+		while (Values.Num() < (TriangleID + 1) * AttribDimension)
 		{
-			Values.AddZeroed(Needed - Values.Num());
+			Values.Add(Value);
 		}
 	}
 
 	/** Not owned; it owns this. */
 	const FDynamicMesh3* ParentMesh;
 	/** At most [MaxTriangleID() * AttribDimension]; what is missing is 0. */
-	TArray<AttribValueType> Values;
+	TBlockArray<AttribValueType> Values;
 };
 
 /** One number for each triangle. */
