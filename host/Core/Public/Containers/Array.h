@@ -232,11 +232,13 @@ public:
 	}
 	ElementType& AddDefaulted_GetRef()
 	{
-		return GetData()[AddDefaulted()];
+		const SizeType Index = AddDefaulted();
+		return GetData()[Index];
 	}
 	ElementType& AddZeroed_GetRef()
 	{
-		return GetData()[AddZeroed()];
+		const SizeType Index = AddZeroed();
+		return GetData()[Index];
 	}
 
 	template <typename... ArgsType>
@@ -249,7 +251,8 @@ public:
 	template <typename... ArgsType>
 	ElementType& Emplace_GetRef(ArgsType&&... Args)
 	{
-		return GetData()[Emplace(Forward<ArgsType>(Args)...)];
+		const SizeType Index = Emplace(Forward<ArgsType>(Args)...);
+		return GetData()[Index];
 	}
 	SizeType Add(const ElementType& Item)
 	{
@@ -263,11 +266,13 @@ public:
 	}
 	ElementType& Add_GetRef(const ElementType& Item)
 	{
-		return GetData()[Add(Item)];
+		const SizeType Index = Add(Item);
+		return GetData()[Index];
 	}
 	ElementType& Add_GetRef(ElementType&& Item)
 	{
-		return GetData()[Add(MoveTempIfPossible(Item))];
+		const SizeType Index = Add(MoveTempIfPossible(Item));
+		return GetData()[Index];
 	}
 	void Push(const ElementType& Item)
 	{
