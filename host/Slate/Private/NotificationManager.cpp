@@ -100,6 +100,10 @@ void FSlateNotificationManager::UpdateProgressNotification(
 
 void FSlateNotificationManager::CancelProgressNotification(FProgressNotificationHandle InHandle)
 {
+	if (Observer && InHandle.IsValid())
+	{
+		Observer->OnProgressCancelled();
+	}
 	EndProgress(InHandle);
 }
 
@@ -122,20 +126,14 @@ FSlateNotificationManager::FProgress* FSlateNotificationManager::FindProgress(co
 
 void FSlateNotificationManager::EndProgress(const FProgressNotificationHandle& Handle)
 {
-	const FProgress* Progress = FindProgress(Handle);
-	if (!Progress)
+	if (!FindProgress(Handle))
 	{
 		return;
 	}
-	const Host::FProgressState Last{Progress->DisplayText, Progress->WorkDone, Progress->TotalWork};
 	Progresses.RemoveAll([&](const FProgress& Other) { return Other.Handle == Handle; });
 	if (Handler)
 	{
 		Handler->CancelProgressNotification(Handle);
-	}
-	if (Observer)
-	{
-		Observer->OnProgressEnded(Last);
 	}
 }
 

@@ -33,8 +33,8 @@ public:
 	virtual void OnProgressStarted(const FProgressState& State) = 0;
 	/** The state after the update. */
 	virtual void OnProgressUpdated(const FProgressState& State) = 0;
-	/** Cancelled, or done. */
-	virtual void OnProgressEnded(const FProgressState& LastState) = 0;
+	/** Somebody asked for the end of a progress, which may have ended by itself before. */
+	virtual void OnProgressCancelled() = 0;
 };
 
 /** Not owned, null for none; gives back the former one. */
