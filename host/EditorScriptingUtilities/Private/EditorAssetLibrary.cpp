@@ -6,16 +6,6 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
-namespace
-{
-/** Whether an object counts as an asset: others may refer to it, and it lies in a package that can be saved. */
-bool IsAsset(const UObject& Object)
-{
-	return IsValid(&Object) && Object.HasAnyFlags(RF_Public) && !Object.HasAnyFlags(RF_Transient) &&
-		   Object.GetOutermost() != GetTransientPackage();
-}
-} // namespace
-
 bool UEditorAssetLibrary::DoesAssetExist(const FString& AssetPath)
 {
 	FString PackageName = AssetPath;
@@ -39,7 +29,7 @@ bool UEditorAssetLibrary::DoesAssetExist(const FString& AssetPath)
 	if (UPackage* Package = FindPackage(nullptr, *PackageName))
 	{
 		const UObject* Object = StaticFindObject(UObject::StaticClass(), Package, *ObjectName);
-		if (Object && IsAsset(*Object))
+		if (Object && Object->IsAsset())
 		{
 			return true;
 		}

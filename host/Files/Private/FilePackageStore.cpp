@@ -24,7 +24,8 @@ FString GetFileName(const FString& LongPackageName)
 	{
 		return FString();
 	}
-	return FindMountedFile(LongPackageName, TEXT(".json"));
+	FString Path;
+	return LongPackageNameToPath(LongPackageName, Path) ? Path + TEXT(".json") : FString();
 }
 
 bool IsFile(const FString& Path)
