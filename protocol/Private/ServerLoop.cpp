@@ -220,7 +220,7 @@ void FServerEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 		auto Made = std::make_unique<FClient>(*this);
 		Made->Id = ++LastId;
 		Made->Identity = Identity;
-		Made->Descriptor = Parts[0].get(ZMQ_SRCFD);
+		Made->Descriptor = DescriptorOf(Parts.back());
 		Found = Clients.emplace(std::move(Identity), std::move(Made)).first;
 	}
 	FClient& Client = *Found->second;

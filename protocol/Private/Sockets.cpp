@@ -116,6 +116,11 @@ std::vector<zmq::message_t> ReceiveParts(zmq::socket_t& Socket, bool& bOutTooMan
 	return Parts;
 }
 
+int DescriptorOf(zmq::message_t& Part)
+{
+	return zmq_msg_get(Part.handle(), ZMQ_SRCFD);
+}
+
 void WaitForSockets(zmq::pollitem_t* Items, std::size_t Count, std::chrono::milliseconds Time)
 {
 	zmq_poll(Items, static_cast<int>(Count), static_cast<long>(Time.count()));

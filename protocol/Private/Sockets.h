@@ -45,6 +45,9 @@ inline FByteView ViewOf(const zmq::message_t& Part)
 	return {static_cast<const std::uint8_t*>(Part.data()), Part.size()};
 }
 
+/** Descriptor of the connection that a part came through, as the monitor's events name it; -1 when it tells none. */
+int DescriptorOf(zmq::message_t& Part);
+
 /** What happens to a socket's connections, as the socket's monitor tells it. */
 class FMonitor
 {

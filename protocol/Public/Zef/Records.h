@@ -18,16 +18,22 @@ namespace Zef
 struct FVec2
 {
 	float X = 0, Y = 0;
+
+	bool operator==(const FVec2&) const = default;
 };
 
 struct FVec3
 {
 	float X = 0, Y = 0, Z = 0;
+
+	bool operator==(const FVec3&) const = default;
 };
 
 struct FVec4
 {
 	float X = 0, Y = 0, Z = 0, W = 0;
+
+	bool operator==(const FVec4&) const = default;
 };
 
 /** Rotation (quaternion x, y, z, w), then translation, then scale. The default is the identity. */
@@ -36,6 +42,8 @@ struct FTransform
 	FVec4 Rotation{0, 0, 0, 1};
 	FVec3 Translation{0, 0, 0};
 	FVec3 Scale{1, 1, 1};
+
+	bool operator==(const FTransform&) const = default;
 };
 
 /** Single-bit values; the same numbers serve as a mask. */
@@ -61,12 +69,16 @@ struct FPackingOptions
 	bool bWeld = false;
 	/** Send each garment with one material in place of its own ones. */
 	bool bUnifiedMaterial = false;
+
+	bool operator==(const FPackingOptions&) const = default;
 };
 
 struct FObjectTypeInfo
 {
 	EObjectType ObjectType = EObjectType::Invalid;
 	EAnimationKind AnimationKind = EAnimationKind::None;
+
+	bool operator==(const FObjectTypeInfo&) const = default;
 };
 
 struct FAvailability
@@ -76,6 +88,8 @@ struct FAvailability
 	bool bFlag2 = false;
 	bool bAvatarHasAnimation = false;
 	bool bAvatarHasSkeleton = false;
+
+	bool operator==(const FAvailability&) const = default;
 };
 
 /** Triangles of one material inside one surface. */
@@ -83,6 +97,8 @@ struct FSection
 {
 	std::int32_t MaterialIndex = 0;	   // key into FSurfaceMesh::Materials
 	std::vector<std::int32_t> Indices; // three per triangle, local to the surface
+
+	bool operator==(const FSection&) const = default;
 };
 
 /** One vertex pool. Normals and Tangents are [Positions.size()]; UVs the same or empty. */
@@ -97,6 +113,8 @@ struct FSurface
 	std::vector<FVec3> Tangents;
 	std::vector<FVec2> UVs;
 	std::vector<FSection> Sections;
+
+	bool operator==(const FSurface&) const = default;
 };
 
 struct FJoint
@@ -104,12 +122,16 @@ struct FJoint
 	std::string Name;
 	std::int32_t ParentIndex = -1; // -1: root; parents stand before children
 	FTransform Transform;		   // relative to the parent
+
+	bool operator==(const FJoint&) const = default;
 };
 
 struct FBoneWeight
 {
 	std::int32_t BoneIndex = 0;
 	float Weight = 0;
+
+	bool operator==(const FBoneWeight&) const = default;
 };
 
 /**
@@ -122,6 +144,8 @@ struct FInfluences
 	std::vector<FBoneWeight> Weights;
 
 	std::size_t VertexCount() const { return FirstWeight.empty() ? 0 : FirstWeight.size() - 1; }
+
+	bool operator==(const FInfluences&) const = default;
 };
 
 /** Keys of FMaterial::Expressions. */
@@ -147,6 +171,8 @@ struct FMaterialExpression
 		Scalars; // 0 intensity (opacity: alpha mode), 1 value, 3 roughness map used
 	std::vector<std::pair<std::int32_t, FVec4>> Vectors; // 0 colour of BaseColor
 	FTransform UVTransform;								 // rotation about z, translation xy = offset, scale xy = amount
+
+	bool operator==(const FMaterialExpression&) const = default;
 };
 
 struct FMaterial
@@ -161,6 +187,8 @@ struct FMaterial
 	std::string SubstanceAssetPath;
 	std::string SubstanceGraphName;
 	FTransform UVTransform;
+
+	bool operator==(const FMaterial&) const = default;
 };
 
 /** Pixels, rows top to bottom, four channels R, G, B, A. */
@@ -170,6 +198,8 @@ struct FTexture
 	std::int32_t Width = 0;
 	std::int32_t Height = 0;
 	std::vector<std::uint8_t> Pixels; // [Width * Height * (Format == 0 ? 4 : 8)]
+
+	bool operator==(const FTexture&) const = default;
 };
 
 /** One object. Maps are in order; a material's position is its slot. */
@@ -180,23 +210,31 @@ struct FSurfaceMesh
 	FInfluences VertexInfluences;
 	std::vector<std::pair<std::int32_t, FMaterial>> Materials;
 	std::vector<std::pair<std::int32_t, FTexture>> Textures;
+
+	bool operator==(const FSurfaceMesh&) const = default;
 };
 
 struct FJointSequenceFrame
 {
 	std::vector<FJoint> Joints;
 	double Time = 0; // seconds
+
+	bool operator==(const FJointSequenceFrame&) const = default;
 };
 
 struct FJointSequence
 {
 	std::vector<FJointSequenceFrame> Frames;
+
+	bool operator==(const FJointSequence&) const = default;
 };
 
 struct FJointAnimation
 {
 	FSurfaceMesh Mesh;
 	FJointSequence Sequence;
+
+	bool operator==(const FJointAnimation&) const = default;
 };
 
 /** One frame of vertex animation over all vertices of the object. */
@@ -206,6 +244,8 @@ struct FMeshSequenceFrame
 	std::vector<FVec3> Normals;
 	std::vector<FVec3> Tangents;
 	double Time = 0; // seconds
+
+	bool operator==(const FMeshSequenceFrame&) const = default;
 };
 
 } // namespace Zef
