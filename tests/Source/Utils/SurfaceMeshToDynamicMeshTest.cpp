@@ -3,6 +3,7 @@
 #include "DynamicMesh/DynamicMeshAttributeSet.h"
 #include "EngineFixture.h"
 #include "Materials/Material.h"
+#include "Source/AssertionChecks.h"
 #include "Source/SampleMeshes.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"

@@ -8,6 +8,7 @@
 #include "Rendering/SkeletalMeshModel.h"
 #include "Rendering/SkeletalMeshLODRenderData.h"
 #include "Rendering/SkeletalMeshRenderData.h"
+#include "Source/AssertionChecks.h"
 #include "Source/SampleMeshes.h"
 #include "Utils/ZEFTandemEditorUtils.h"
 

@@ -2,6 +2,7 @@
 #include "Engine/Texture2D.h"
 #include "EngineFixture.h"
 #include "Materials/Material.h"
+#include "Source/AssertionChecks.h"
 #include "Source/SampleMeshes.h"
 #include "UObject/Package.h"
 #include "Utils/ZEFAssetObject.h"

@@ -4,6 +4,7 @@
 
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "CoreGlobals.h"
 
 /**
  * The ini files of the program, read when they are first asked for and kept in memory.
@@ -61,17 +62,3 @@ private:
 	/** Owned. */
 	FFiles* Files;
 };
-
-/** The settings of the program; always there. Another object takes its place when the host sets its folders. */
-extern CORE_API FConfigCacheIni* GConfig;
-
-// File names of the saved configuration, empty until the host has set its folders. A file of an empty name is kept in
-// memory only.
-
-extern CORE_API FString GEngineIni;
-extern CORE_API FString GEditorIni;
-extern CORE_API FString GEditorPerProjectIni;
-extern CORE_API FString GEditorLayoutIni;
-extern CORE_API FString GEditorSettingsIni;
-extern CORE_API FString GGameIni;
-extern CORE_API FString GInputIni;
