@@ -140,7 +140,11 @@ public:
 			std::is_copy_constructible_v<std::decay_t<FunctorType>>, "use TUniqueFunction for what only moves");
 		this->Hold(Forward<FunctorType>(Functor));
 	}
-	TFunction(const TFunction& Other) { this->Callable = Other.Callable ? Other.Callable->Clone() : nullptr; }
+	TFunction(const TFunction& Other)
+		: UE::Core::Private::TFunctionBase<Ret, ParamTypes...>()
+	{
+		this->Callable = Other.Callable ? Other.Callable->Clone() : nullptr;
+	}
 	TFunction(TFunction&&) = default;
 	TFunction& operator=(const TFunction& Other)
 	{
