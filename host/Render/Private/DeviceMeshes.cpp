@@ -151,9 +151,13 @@ FDrawnSection FDeviceMeshes::Take(vtkPolyData& Geometry)
 	}
 	FPooledSection Made;
 	Made.bUsed = true;
-	Made.Section.Mapper = vtkSmartPointer<FSurfaceMapper>::New();
-	Made.Section.Mapper->SetInputData(&Geometry);
-	Made.Section.Mapper->StaticOn();
+	for (vtkSmartPointer<FSurfaceMapper>* Mapper : {&Made.Section.Mapper, &Made.Section.DepthMapper})
+	{
+		*Mapper = vtkSmartPointer<FSurfaceMapper>::New();
+		(*Mapper)->SetInputData(&Geometry);
+		(*Mapper)->StaticOn();
+	}
+	Made.Section.DepthMapper->SetDepthOnly(true);
 	Made.Section.Actor = vtkSmartPointer<vtkActor>::New();
 	Made.Section.Actor->SetMapper(Made.Section.Mapper);
 	Made.Section.Actor->SetPickable(false);
@@ -191,10 +195,13 @@ void FDeviceMeshes::Show(
 			}
 			FDrawnSection Section = Take(Geometry);
 			Section.bTranslucent = Material->Blend == EBlend::Translucent;
-			Section.Mapper->SetFrame(&Frame);
-			Section.Mapper->SetMaterial(Material, Maps);
-			Section.Mapper->SetPlacement(Object.Placement);
-			Section.Mapper->SetCmPerUV(Entry.CmPerUV[Index]);
+			for (FSurfaceMapper* Mapper : {Section.Mapper.Get(), Section.DepthMapper.Get()})
+			{
+				Mapper->SetFrame(&Frame);
+				Mapper->SetMaterial(Material, Maps);
+				Mapper->SetPlacement(Object.Placement);
+				Mapper->SetCmPerUV(Entry.CmPerUV[Index]);
+			}
 			Section.Actor->SetForceTranslucent(Section.bTranslucent);
 			Section.Actor->SetForceOpaque(!Section.bTranslucent);
 			Renderer.AddActor(Section.Actor);
@@ -211,6 +218,7 @@ void FDeviceMeshes::Show(
 			continue;
 		}
 		It->second.Section.Mapper->ReleaseGraphicsResources(&Window);
+		It->second.Section.DepthMapper->ReleaseGraphicsResources(&Window);
 		It = Pool.erase(It);
 	}
 	for (auto It = Meshes.begin(); It != Meshes.end();)
@@ -241,6 +249,7 @@ void FDeviceMeshes::Clear(vtkRenderer& Renderer)
 	for (auto& [Geometry, Pooled] : Pool)
 	{
 		Pooled.Section.Mapper->ReleaseGraphicsResources(Renderer.GetRenderWindow());
+		Pooled.Section.DepthMapper->ReleaseGraphicsResources(Renderer.GetRenderWindow());
 	}
 	Pool.clear();
 	Meshes.clear();

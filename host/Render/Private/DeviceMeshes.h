@@ -23,6 +23,7 @@ class FDeviceTextures;
 struct FDrawnSection
 {
 	vtkSmartPointer<FSurfaceMapper> Mapper;
+	vtkSmartPointer<FSurfaceMapper> DepthMapper;
 	vtkSmartPointer<vtkActor> Actor;
 	bool bTranslucent = false;
 };

@@ -45,7 +45,7 @@ void SetFrameUniforms(vtkShaderProgram& Program, const FFrameState& Frame)
 	Program.SetUniform2f("uPixelSize", PixelSize);
 	Program.SetUniformi("uShadowMap", Shadows->GetTextureUnit());
 	Program.SetUniformi("uOcclusion", Occlusion->GetTextureUnit());
-	Program.SetUniformi("uPass", int(Frame.Pass));
+	Program.SetUniformi("uForLamp", Frame.Pass == ERenderPass::Shadow);
 }
 
 } // namespace Host

@@ -29,7 +29,7 @@ namespace
 constexpr int LargestPicture = 8192;
 constexpr int ShadowMapSize = 2048;
 // Part of the scene's radius within which a surface takes away light from another.
-constexpr float OcclusionReach = 0.09f;
+constexpr float OcclusionReach = 0.13f;
 
 float Reach(const FSceneBounds& Bounds)
 {
@@ -166,7 +166,7 @@ void FSceneRenderer::FImpl::DrawDepths(ERenderPass Pass, const FClipMatrix& View
 	{
 		if (Pass == ERenderPass::Shadow || !Section.bTranslucent)
 		{
-			Section.Mapper->RenderPiece(Renderer, Section.Actor);
+			Section.DepthMapper->RenderPiece(Renderer, Section.Actor);
 		}
 	}
 	Frame.Pass = ERenderPass::Color;

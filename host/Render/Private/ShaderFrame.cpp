@@ -57,7 +57,9 @@ vec3 decoded(vec3 srgb)
 {
 	return mix(pow((srgb + 0.055) / 1.055, vec3(2.4)), srgb / 12.92, vec3(lessThanEqual(srgb, vec3(0.04045))));
 }
+)glsl";
 
+const char* const PixelNoise = R"glsl(
 // Interleaved gradient noise: even over small neighbourhoods, the same at every run.
 float pixelNoise(vec2 pixel)
 {

@@ -89,7 +89,7 @@ void main()
 
 std::string BackdropFragment()
 {
-	return std::string(BackdropHead) + FrameDeclarations + ToneCurve + ShadowLookup + BackdropMain;
+	return std::string(BackdropHead) + FrameDeclarations + ToneCurve + PixelNoise + ShadowLookup + BackdropMain;
 }
 
 const char* const OcclusionFragment = R"glsl(//VTK::System::Dec
@@ -151,7 +151,7 @@ void main()
 		float near = clamp(1.0 - distance / uReach, 0.0, 1.0);
 		sum += max(rise - 0.06, 0.0) * near;
 	}
-	float open = clamp(1.0 - 2.1 * sum / float(count), 0.0, 1.0);
+	float open = clamp(1.0 - 3.2 * sum / float(count), 0.0, 1.0);
 	gl_FragData[0] = vec4(open, open, open, 1.0);
 }
 )glsl";

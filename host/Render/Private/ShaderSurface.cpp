@@ -39,10 +39,6 @@ in vec3 vNormal;
 in vec4 vTangent;
 in vec2 vUV;
 
-const int PassColor = 0;
-const int PassDepth = 1;   // depths as the viewer sees them
-const int PassShadow = 2;  // depths as the lamp sees them
-
 const int ChannelBaseColor = 0;
 const int ChannelNormal = 1;
 const int ChannelRoughness = 2;
@@ -54,7 +50,7 @@ const int BlendOpaque = 0;
 const int BlendMasked = 1;
 const int BlendTranslucent = 2;
 
-uniform int uPass;
+uniform int uForLamp;         // 1 while the lamp's depths are drawn
 uniform int uBlend;
 uniform int uTwoSided;
 uniform int uOpacityFromAlpha;
@@ -146,7 +142,7 @@ const char* const Head = R"glsl(//VTK::System::Dec
 //VTK::Output::Dec
 )glsl";
 
-const char* const Main = R"glsl(
+const char* const FrameHere = R"glsl(
 Frame frameHere()
 {
 	Frame frame;
@@ -193,6 +189,32 @@ Frame frameHere()
 	return frame;
 }
 
+// Where a surface is cut out, drawn from behind though one-sided, or too clear, there is none.
+bool isAbsent(Frame frame, bool away, float opacity)
+{
+	return (uTwoSided == 0 && away && uForLamp == 0) || (uBlend == BlendMasked && opacity < uClipValue);
+}
+)glsl";
+
+const char* const DepthMain = R"glsl(
+void main()
+{
+	Frame frame = frameHere();
+	float opacity = uBlend == BlendOpaque ? 1.0 : opacityAt(frame);
+	if (isAbsent(frame, dot(vNormal, frame.face) < 0.0, opacity))
+	{
+		discard;
+	}
+	// What lets light through throws a thinner shadow: only so many points of it.
+	if (uBlend == BlendTranslucent && pixelNoise(gl_FragCoord.xy) > opacity)
+	{
+		discard;
+	}
+	gl_FragData[0] = vec4(1.0);
+}
+)glsl";
+
+const char* const Main = R"glsl(
 void main()
 {
 	//VTK::UniformFlow::Impl
@@ -200,30 +222,13 @@ void main()
 	bool away = dot(vNormal, frame.face) < 0.0;
 	//VTK::Depth::Impl
 	//VTK::DepthPeeling::PreColor
-	if (uTwoSided == 0 && away && uPass != PassShadow)
+	Surface surface;
+	surface.opacity = uBlend == BlendOpaque ? 1.0 : opacityAt(frame);
+	if (isAbsent(frame, away, surface.opacity))
 	{
 		discard;
 	}
-	Surface surface;
-	surface.opacity = uBlend == BlendOpaque ? 1.0 : opacityAt(frame);
-	if (uBlend == BlendMasked)
-	{
-		if (surface.opacity < uClipValue)
-		{
-			discard;
-		}
-		surface.opacity = 1.0;
-	}
-	if (uPass != PassColor)
-	{
-		// What lets light through throws a thinner shadow: only so many points of it.
-		if (surface.opacity < 0.999 && pixelNoise(gl_FragCoord.xy) > surface.opacity)
-		{
-			discard;
-		}
-		gl_FragData[0] = vec4(1.0);
-		return;
-	}
+	surface.opacity = uBlend == BlendTranslucent ? surface.opacity : 1.0;
 
 	surface.baseColor = uBaseColor.rgb;
 	if (hasMap(ChannelBaseColor))
@@ -261,8 +266,13 @@ void main()
 
 std::string SurfaceFragment()
 {
-	return std::string(Head) + FrameDeclarations + ToneCurve + ShadowLookup + SurfaceDeclarations + Noise +
-		   SurfaceDetail + Lighting + Main;
+	return std::string(Head) + FrameDeclarations + ToneCurve + PixelNoise + ShadowLookup + SurfaceDeclarations + Noise +
+		   SurfaceDetail + Lighting + FrameHere + Main;
+}
+
+std::string SurfaceDepthFragment()
+{
+	return std::string(Head) + FrameDeclarations + PixelNoise + SurfaceDeclarations + FrameHere + DepthMain;
 }
 
 } // namespace Host::Shaders

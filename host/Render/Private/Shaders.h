@@ -7,9 +7,10 @@
 namespace Host::Shaders
 {
 
-/** Every surface, in every pass. */
+/** Every surface: as it is seen, and only where it stands. */
 extern const char* const SurfaceVertex;
 std::string SurfaceFragment();
+std::string SurfaceDepthFragment();
 
 /** Backdrop and floor behind everything, at their depth. */
 std::string BackdropFragment();
@@ -21,6 +22,7 @@ extern const char* const OcclusionBlurFragment;
 // Parts that several programs share.
 extern const char* const FrameDeclarations;
 extern const char* const ToneCurve;
+extern const char* const PixelNoise;
 extern const char* const ShadowLookup;
 extern const char* const SurfaceDeclarations;
 extern const char* const Noise;

@@ -123,7 +123,7 @@ void FSurfaceMapper::RenderPieceFinish(vtkRenderer* Renderer, vtkActor* Actor)
 void FSurfaceMapper::GetShaderTemplate(std::map<vtkShader::Type, vtkShader*> Shaders, vtkRenderer*, vtkActor*)
 {
 	Shaders[vtkShader::Vertex]->SetSource(Shaders::SurfaceVertex);
-	Shaders[vtkShader::Fragment]->SetSource(Shaders::SurfaceFragment());
+	Shaders[vtkShader::Fragment]->SetSource(bDepthOnly ? Shaders::SurfaceDepthFragment() : Shaders::SurfaceFragment());
 	Shaders[vtkShader::Geometry]->SetSource("");
 }
 

@@ -33,6 +33,9 @@ public:
 	/** @param InCmPerUV  centimetres of surface along one unit of the texture coordinates, 0 when unknown */
 	void SetCmPerUV(float InCmPerUV) { CmPerUV = InCmPerUV; }
 
+	/** Draws only where the surface stands, with a program that does nothing else. Set it before the first use. */
+	void SetDepthOnly(bool bInDepthOnly) { bDepthOnly = bInDepthOnly; }
+
 	void RenderPieceStart(vtkRenderer* Renderer, vtkActor* Actor) override;
 	void RenderPieceFinish(vtkRenderer* Renderer, vtkActor* Actor) override;
 
@@ -54,6 +57,7 @@ private:
 	FMaterialTextures Textures{};
 	FPlacement Placement;
 	float CmPerUV = 0.0f;
+	bool bDepthOnly = false;
 };
 
 } // namespace Host
