@@ -8,9 +8,11 @@
 #include "Editor/ZEFTandemEditorModule.h"
 #include "Engine/SkeletalMesh.h"
 #include "GameFramework/Actor.h"
+#include "Materials/MaterialInterface.h"
 #include "Modules/ModuleManager.h"
 #include "Source/Editor/OpenEditorFixture.h"
 #include "Source/SampleMeshes.h"
+#include "Templates/Casts.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
 #include <gtest/gtest.h>

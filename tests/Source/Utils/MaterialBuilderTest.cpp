@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Engine/Texture2D.h"
 #include "EngineFixture.h"
+#include "Templates/Casts.h"
 #include "Materials/Material.h"
 #include "Materials/MaterialInstanceConstant.h"
 #include "Misc/ConfigCacheIni.h"
