@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Materials/MaterialInterface.h"
 
+#include "AssetRefresh.h"
 #include "Host/MaterialDeclaration.h"
 #include "Materials/Material.h"
 
@@ -83,4 +84,10 @@ void UMaterialInterface::GetUsedTextures(
 			OutTextures.AddUnique(Texture);
 		}
 	}
+}
+
+void UMaterialInterface::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	Host::RefreshComponents(*this);
+	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

@@ -2,6 +2,7 @@
 #include "Engine/SkeletalMesh.h"
 
 #include "Animation/Skeleton.h"
+#include "AssetRefresh.h"
 #include "Host/NativeCopy.h"
 #include "Materials/MaterialInterface.h"
 #include "Rendering/SkeletalMeshModel.h"
@@ -201,5 +202,6 @@ FSkeletalMeshRenderData* USkeletalMesh::GetResourceForRendering() const
 void USkeletalMesh::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
 	Build();
+	Host::RefreshComponents(*this);
 	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Engine/Texture.h"
 
+#include "AssetRefresh.h"
 #include "HAL/UnrealMemory.h"
 #include "Host/TextureResource.h"
 
@@ -131,5 +132,6 @@ void UTexture::UpdateResource()
 void UTexture::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
 	UpdateResource();
+	Host::RefreshComponents(*this);
 	Super::PostEditChangeProperty(PropertyChangedEvent);
 }

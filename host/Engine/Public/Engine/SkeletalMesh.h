@@ -98,7 +98,7 @@ public:
 	/** Null before the first Build. */
 	ENGINE_API virtual FSkeletalMeshRenderData* GetResourceForRendering() const override;
 
-	/** Builds again. */
+	/** Builds again; components that show the mesh take its bounds and are drawn anew. */
 	ENGINE_API virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
 private:
