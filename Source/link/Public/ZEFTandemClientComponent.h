@@ -18,7 +18,7 @@ DECLARE_MULTICAST_DELEGATE_TwoParams(
 DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnZEFMeshSequenceReceived, const ZefTandemCore::TandemObjectType&,
 	const FZEFSurfaceMesh&, const TArray<FZEFMeshSequenceFrame>&);
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnZEFAvailabilityReceived, const ZefTandemCore::TandemAvailability&);
-DECLARE_MULTICAST_DELEGATE_OneParam(FOnZEFTandemEnabled, bool);
+DECLARE_MULTICAST_DELEGATE_OneParam(FOnZEFLinkFaultReported, const FString&);
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnZEFConnectionChanged, bool);
 
 /**
@@ -35,6 +35,7 @@ class ZEFTANDEMRUNTIME_API UZEFTandemClientComponent : public UActorComponent
 
 public:
 	UZEFTandemClientComponent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	virtual ~UZEFTandemClientComponent() override;
 
 	/**
 	 * Starts looking for the garment application that serves ChannelName, and goes on looking until Destroy. Does not
@@ -69,8 +70,8 @@ public:
 	FOnZEFMeshSequenceReceived OnMeshSequenceReceived;
 	/** The flags that were requested. */
 	FOnZEFAvailabilityReceived OnAvailabilityReceived;
-	/** The link was enabled or disabled by a message that went out. */
-	FOnZEFTandemEnabled OnTandemEnabled;
+	/** A message was dropped, by either end; the text names code, place and reason, as the log does. */
+	FOnZEFLinkFaultReported OnLinkFaultReported;
 	/** The link came up or went down, or a message found nobody there. */
 	FOnZEFConnectionChanged OnConnectionChanged;
 

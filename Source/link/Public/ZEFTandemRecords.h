@@ -77,7 +77,7 @@ struct FZEFJoint
 	 */
 	int32 ParentIndex = 0;
 	/** Relative to the parent. */
-	FTransform3f Transform = FTransform3f::Identity;
+	FTransform3f Transform;
 };
 
 /** One pose. */
@@ -118,7 +118,7 @@ struct FZEFMaterialExpression
 	/** Key 0 is the colour of the base colour channel. */
 	TMap<int32, FVector4f> Vectors;
 	/** Placement of the map: rotation, translation x and y as U and V offset, scale x and y as U and V amount. */
-	FTransform3f UVTransform = FTransform3f::Identity;
+	FTransform3f UVTransform;
 };
 
 /** One material. */
@@ -139,7 +139,7 @@ struct FZEFMaterial
 	FString SubstanceAssetPath;
 	FString SubstanceGraphName;
 	/** Placement of the texture coordinates of a Substance material. */
-	FTransform3f UVTransform = FTransform3f::Identity;
+	FTransform3f UVTransform;
 };
 
 /** One object as it crosses the link. */
@@ -183,7 +183,7 @@ struct FZEFMaterialData
 	bool bSubstance = false;
 	FString SubstanceAssetPath;
 	FString SubstanceGraphName;
-	FTransform3f UVTransform = FTransform3f::Identity;
+	FTransform3f UVTransform;
 };
 
 /** An object without skeleton, built for the preview. */
