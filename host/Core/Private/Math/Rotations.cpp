@@ -135,8 +135,10 @@ TRotator<T> TQuat<T>::Rotator() const
 		return {T(90), Yaw, Roll};
 	}
 	const T Pitch = FMath::RadiansToDegrees(FMath::Asin(T(2) * HalfSine));
-	const T Roll = FMath::RadiansToDegrees(
-		FMath::Atan2(T(-2) * (W * X + Y * Z), T(1) - T(2) * (FMath::Square(X) + FMath::Square(Y))));
+	// Subtracting from zero, as negating would write a roll of zero as -0.
+	const T SineOfRoll = T(0) - T(2) * (W * X + Y * Z);
+	const T CosineOfRoll = T(1) - T(2) * (FMath::Square(X) + FMath::Square(Y));
+	const T Roll = FMath::RadiansToDegrees(FMath::Atan2(SineOfRoll, CosineOfRoll));
 	return {Pitch, Yaw, Roll};
 }
 

@@ -428,7 +428,6 @@ FString GEditorPerProjectIni;
 FString GEditorLayoutIni;
 FString GEditorSettingsIni;
 FString GGameIni;
-FString GInputIni;
 
 namespace Host
 {
@@ -445,7 +444,6 @@ void SetConfigDirs(
 	GEditorLayoutIni = Named("EditorLayout");
 	GEditorSettingsIni = Named("EditorSettings");
 	GGameIni = Named("Game");
-	GInputIni = Named("Input");
 	delete GConfig;
 	GConfig = new FConfigCacheIni();
 }
