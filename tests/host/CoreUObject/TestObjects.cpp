@@ -52,5 +52,13 @@ UTestBigOwner::UTestBigOwner(const FObjectInitializer& ObjectInitializer)
 {
 }
 
+bool UTestLegacy::bRefuse = false;
+
+UTestLegacy::UTestLegacy(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	checkf(!bRefuse, TEXT("refused"));
+}
+
 static Host::TNativeCopy<UTestValues> CopyNativeNumbers(
 	[](const UTestValues& Source, UTestValues& Target) { Target.NativeNumbers = Source.NativeNumbers; });

@@ -222,6 +222,9 @@ public:
 	UPROPERTY(EditAnywhere, Category = "Cloth")
 	TSet<FName> Tags;
 
+	UPROPERTY(EditAnywhere, Category = "Cloth")
+	FVector Extent = FVector(1, 2, 3);
+
 	UPROPERTY(VisibleAnywhere, Category = "Cloth")
 	TObjectPtr<UObject> Seen;
 
@@ -261,4 +264,23 @@ class UTestSquare : public UTestShape
 
 public:
 	virtual int32 CornerCount() const override { return 4; }
+};
+
+/** Declared in the older way. */
+UCLASS()
+class UTestLegacy : public UObject
+{
+	GENERATED_UCLASS_BODY()
+
+	UPROPERTY()
+	int32 Age = 4;
+
+	/** Makes the constructor fail an assertion. */
+	static bool bRefuse;
+};
+
+UCLASS()
+class ATestLamp : public UObject
+{
+	GENERATED_BODY()
 };

@@ -60,14 +60,12 @@ void TeardownObjectSystem()
 		Type->ConditionalBeginDestroy();
 		Type->ConditionalFinishDestroy();
 	}
-	for (UObject* Type : Types)
-	{
-		FObjectAccess::Unregister(Type);
-	}
+	FObjectAccess::Unregister(Types);
 	for (UObject* Type : Types)
 	{
 		FObjectAccess::Delete(Type);
 	}
+	GUObjectArray.TrimFreePlaces();
 }
 
 } // namespace Host

@@ -38,11 +38,8 @@ FString NameToWords(const FString& Name, bool bIsBool)
 			continue;
 		}
 		const TCHAR Before = Index > First ? Name[Index - 1] : TEXT(' ');
-		const TCHAR Behind = Index + 1 < Name.Len() ? Name[Index + 1] : TEXT(' ');
-		// A word begins after a small letter, and with the last capital of an abbreviation that a word follows.
-		const bool bWord =
-			(IsUpper(C) && (IsLower(Before) || IsDigit(Before) || (IsUpper(Before) && IsLower(Behind)))) ||
-			(IsDigit(C) && IsLower(Before));
+		// A word begins where a capital or a digit follows a small letter: "UVChannel" and "LOD0" stay whole.
+		const bool bWord = (IsUpper(C) || IsDigit(C)) && IsLower(Before);
 		if (bWord && !Result.IsEmpty())
 		{
 			Result += TEXT(' ');

@@ -210,6 +210,7 @@ void CollectGarbage(EObjectFlags KeepFlags, bool bPerformFullPurge)
 	bCollecting = true;
 	FMarker(true, nullptr).Run(KeepFlags, EInternalObjectFlags::None, nullptr);
 	DestroyObjects(TakeUnreachable(false));
+	GUObjectArray.TrimFreePlaces();
 	bCollecting = false;
 	FCoreUObjectDelegates::GetPostGarbageCollect().Broadcast();
 }

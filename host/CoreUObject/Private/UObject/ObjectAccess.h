@@ -6,6 +6,8 @@
 #include "UObject/GeneratedCppIncludes.h"
 #include "UObject/UObjectArray.h"
 
+#include <vector>
+
 namespace Host
 {
 
@@ -61,8 +63,8 @@ struct FObjectAccess
 
 	/** Lets each plain class that keeps objects alive report them. */
 	static void ReportGCObjects(FReferenceCollector& Collector);
-	/** Forgets the object of the type that `Object` describes, when it describes one. */
-	static void Unregister(UObject* Object);
+	/** Makes the types that these objects describe forget them. */
+	static void Unregister(const std::vector<UObject*>& Objects);
 };
 
 /** Makes the classes that the object system itself consists of, unless they are there. */

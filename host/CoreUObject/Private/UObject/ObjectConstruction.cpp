@@ -129,6 +129,11 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 	return Object;
 }
 
+void CheckIsClassChildOf_Internal(const UClass* Parent, const UClass* Child)
+{
+	checkf(!Child || Child->IsChildOf(Parent), TEXT("A %s is no %s"), *Child->GetName(), *Parent->GetName());
+}
+
 FName MakeUniqueObjectName(UObject* Parent, const UClass* Class, FName BaseName)
 {
 	const FString Base = (BaseName.IsNone() ? Class->GetFName() : BaseName).GetPlainNameString();

@@ -102,7 +102,8 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 		Path = InOuter->GetPathName() + (InOuter->IsA<UPackage>() ? TEXT(".") : TEXT(":")) + Path;
 	}
 	const FString PackageName = FPackageName::ObjectPathToPackageName(Path);
-	if (PackageName.Len() == Path.Len())
+	const bool bOnlyPackage = PackageName.Len() == Path.Len();
+	if (bOnlyPackage)
 	{
 		Path += TEXT(".") + FPackageName::GetShortName(PackageName);
 	}
@@ -118,6 +119,11 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 		// Types exist from the start, their objects only when something asked for them.
 		Host::RegisterAllTypes();
 		Object = StaticFindObject(Class, nullptr, *Path);
+	}
+	if (!Object && bOnlyPackage)
+	{
+		// The name may mean the package itself.
+		Object = StaticFindObject(Class, nullptr, *PackageName);
 	}
 	if (!Object && !(LoadFlags & (LOAD_NoWarn | LOAD_Quiet)))
 	{

@@ -6,7 +6,7 @@
 UPackage* CreatePackage(const TCHAR* PackageName)
 {
 	const FString Name(PackageName);
-	const bool bFullName = Name.StartsWith(TEXT("/")) && Name.Len() > 1 && !Name.EndsWith(TEXT("/"));
+	const bool bFullName = Name.StartsWith(TEXT("/")) && !Name.EndsWith(TEXT("/")) && !Name.Contains(TEXT("//"));
 	checkf(bFullName, TEXT("A package needs a full name such as /Game/Name, not '%s'"), *Name);
 	if (!bFullName)
 	{

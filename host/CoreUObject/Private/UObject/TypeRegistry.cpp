@@ -142,19 +142,26 @@ UEnum* FObjectAccess::MakeEnum(FEnumRegistration& Registration)
 	return Enum;
 }
 
-void FObjectAccess::Unregister(UObject* Object)
+void FObjectAccess::Unregister(const std::vector<UObject*>& Objects)
 {
-	if (Object->IsA<UClass>())
+	// Asking for these classes later would make them again.
+	const UClass* const ClassClass = UClass::StaticClass();
+	const UClass* const StructClass = UScriptStruct::StaticClass();
+	const UClass* const EnumClass = UEnum::StaticClass();
+	for (UObject* Object : Objects)
 	{
-		static_cast<UClass*>(Object)->Registration->Class = nullptr;
-	}
-	else if (Object->IsA<UScriptStruct>())
-	{
-		static_cast<UScriptStruct*>(Object)->Registration->Struct = nullptr;
-	}
-	else if (Object->IsA<UEnum>())
-	{
-		static_cast<UEnum*>(Object)->Registration->Enum = nullptr;
+		if (Object->GetClass() == ClassClass)
+		{
+			static_cast<UClass*>(Object)->Registration->Class = nullptr;
+		}
+		else if (Object->GetClass() == StructClass)
+		{
+			static_cast<UScriptStruct*>(Object)->Registration->Struct = nullptr;
+		}
+		else if (Object->GetClass() == EnumClass)
+		{
+			static_cast<UEnum*>(Object)->Registration->Enum = nullptr;
+		}
 	}
 }
 

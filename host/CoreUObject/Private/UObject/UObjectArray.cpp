@@ -17,6 +17,17 @@ void FUObjectArray::FreeUObjectIndex(int32 Index)
 	FreeIndices.Add(Index);
 }
 
+void FUObjectArray::TrimFreePlaces()
+{
+	int32 Count = Objects.Num();
+	while (Count > 0 && !Objects[Count - 1].Object)
+	{
+		--Count;
+	}
+	Objects.SetNum(Count);
+	FreeIndices.RemoveAll([Count](int32 Index) { return Index >= Count; });
+}
+
 int32 FUObjectArray::AllocateSerialNumber(int32 Index)
 {
 	FUObjectItem& Item = Objects[Index];

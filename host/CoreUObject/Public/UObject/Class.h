@@ -252,3 +252,10 @@ UScriptStruct* StaticStruct()
 {
 	return T::StaticStruct();
 }
+
+/** Object that describes a math type of Core: `TBaseStructure<FVector>::Get()`. */
+template <typename T>
+struct TBaseStructure
+{
+	static UScriptStruct* Get() { return static_cast<UScriptStruct*>(Host::FindReflectedType(Host::TypeName<T>())); }
+};

@@ -78,7 +78,7 @@ public:
 	virtual void PreEditChange(FProperty* PropertyAboutToChange);
 	virtual void PreEditChange(FEditPropertyChain& PropertyAboutToChange);
 	/** Announces the end of a change of no particular property. */
-	void PostEditChange();
+	virtual void PostEditChange();
 	/** Broadcasts OnObjectPropertyChanged; overrides call their super class last. */
 	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent);
 	virtual void PostEditChangeChainProperty(FPropertyChangedChainEvent& PropertyChangedEvent);
@@ -139,7 +139,7 @@ public:
 		FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient);
 };
 
-/** Whether there is an object and it was not marked as garbage. */
+/** Whether there is an object, and it is neither marked as garbage nor being collected. */
 inline bool IsValid(const UObject* Test)
 {
 	return Test && !Test->HasAnyInternalFlags(EInternalObjectFlags::Garbage | EInternalObjectFlags::Unreachable);

@@ -29,6 +29,8 @@ public:
 	int32 AllocateUObjectIndex(UObjectBase* Object);
 	/** Frees a place; weak pointers to its object are stale from now on. */
 	void FreeUObjectIndex(int32 Index);
+	/** Gives free places at the end of the table back. */
+	void TrimFreePlaces();
 	/** Serial number of the object at `Index`, given out when it has none yet. */
 	int32 AllocateSerialNumber(int32 Index);
 

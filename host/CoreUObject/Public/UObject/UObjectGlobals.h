@@ -49,16 +49,20 @@ COREUOBJECT_API UObject* StaticConstructObject_Internal(const FStaticConstructOb
 /** Package of all that is never saved, "/Engine/Transient". */
 COREUOBJECT_API UPackage* GetTransientPackage();
 
+/** Fails an assertion when `Child` is not `Parent` or derived from it. */
+COREUOBJECT_API void CheckIsClassChildOf_Internal(const UClass* Parent, const UClass* Child);
+
 /**
  * Makes an object, see StaticConstructObject_Internal.
  *
- * @param Class  T or a class derived from it
+ * @param Class  T or a class derived from it; another is a fatal error
  */
 template <class T>
 T* NewObject(UObject* Outer, const UClass* Class, FName Name = NAME_None, EObjectFlags Flags = RF_NoFlags,
 	UObject* Template = nullptr, bool bCopyTransientsFromClassDefaults = false,
 	FObjectInstancingGraph* InInstanceGraph = nullptr, UPackage* ExternalPackage = nullptr)
 {
+	CheckIsClassChildOf_Internal(T::StaticClass(), Class);
 	FStaticConstructObjectParameters Params(Class);
 	Params.Outer = Outer;
 	Params.Name = Name;
