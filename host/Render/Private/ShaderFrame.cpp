@@ -26,15 +26,16 @@ uniform float uHasOcclusion;
 )glsl";
 
 // Keeps colours up to 0.8 as they are and rolls brighter ones off towards white, as the "PBR neutral" tone mapper of
-// the Khronos group does; a fabric's colour is what its maker chose, so the curve may not shift it.
+// the Khronos group does, with a shorter toe; a fabric's colour is what its maker chose, so the curve may not shift it.
 const char* const ToneCurve = R"glsl(
 vec3 toneMapped(vec3 color)
 {
-	const float start = 0.76;
+	const float toe = 0.015;
+	const float start = 0.8 - toe;
 	const float desaturation = 0.18;
 	color *= uExposure;
 	float low = min(color.r, min(color.g, color.b));
-	color -= low < 0.08 ? low - 6.25 * low * low : 0.04;
+	color -= low < 2.0 * toe ? low - low * low / (4.0 * toe) : toe;
 	float peak = max(color.r, max(color.g, color.b));
 	if (peak < start)
 	{
@@ -84,7 +85,7 @@ float shadowOf(vec3 position, vec3 normal, float rotation)
 	}
 	float depthPerCm = 0.5 / uShadowExtent;
 	float bias = 0.8 * uShadowTexel * depthPerCm;
-	float search = 6.0 * depthPerCm;
+	float search = min(6.0, 0.06 * uShadowExtent) * depthPerCm;
 	float throwers = 0.0;
 	float throwerDepth = 0.0;
 	float angle = rotation * 2.0 * Pi;
@@ -105,7 +106,7 @@ float shadowOf(vec3 position, vec3 normal, float rotation)
 		return 1.0;
 	}
 	float distance = (at.z - throwerDepth / throwers) / depthPerCm;
-	float width = clamp(distance * uLightSize[0] * 0.6, 1.2 * uShadowTexel, 14.0) * depthPerCm;
+	float width = clamp(distance * uLightSize[0] * 0.6, 1.2 * uShadowTexel, min(14.0, 0.12 * uShadowExtent)) * depthPerCm;
 	float lit = 0.0;
 	const int count = 16;
 	for (int i = 0; i < count; ++i)

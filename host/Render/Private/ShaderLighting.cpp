@@ -188,7 +188,7 @@ vec4 shade(Frame frame, Surface surface)
 		vec3 body = vec3(flat_);
 		if (scatter > 0.0)
 		{
-			vec3 reach = uSubsurface.rgb * 0.55;
+			vec3 reach = uSubsurface.rgb * 0.4;
 			vec3 soft = clamp((vec3(raw) + reach) / (1.0 + reach), 0.0, 1.0);
 			body = mix(body, soft * soft * 1.05, scatter);
 		}
@@ -224,7 +224,7 @@ vec4 shade(Frame frame, Surface surface)
 	vec3 skyLight = around;
 	if (scatter > 0.0)
 	{
-		skyLight = mix(around, ambientAt(normalize(mix(N, V, 0.4))) * mix(vec3(1.0), uSubsurface.rgb, 0.2), scatter);
+		skyLight = mix(around, ambientAt(normalize(mix(N, V, 0.4))) * mix(vec3(1.0), uSubsurface.rgb, 0.08), scatter);
 	}
 	// Between bright walls light bounces on: dark corners of bright things are less dark and take on their colour.
 	vec3 openColor = vec3(open);
