@@ -132,14 +132,7 @@ public:
 		{
 			// A copy, because adding moves the bindings.
 			const FDelegate Delegate = Bindings[Index];
-			if constexpr (sizeof...(ParamTypes) == 0)
-			{
-				Delegate.ExecuteIfBound();
-			}
-			else
-			{
-				Delegate.ExecuteIfBound(Params...);
-			}
+			Delegate.ExecuteIfBound(Params...);
 		}
 	}
 

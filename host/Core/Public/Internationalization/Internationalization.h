@@ -7,7 +7,7 @@
 class CORE_API FInternationalization
 {
 public:
-	/** What LOCTEXT and NSLOCTEXT call; the same namespace, key and source give the same text again. */
+	/** What LOCTEXT and NSLOCTEXT call; texts of the same namespace, key and source are identical to each other. */
 	static FText ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(
 		const TCHAR* InTextLiteral, const TCHAR* Namespace, const TCHAR* Key);
 };
