@@ -116,12 +116,12 @@ EDecode FItemDecoder::FImpl::ReadHeader(FByteView Bytes)
 	}
 	HeaderBytes.assign(Bytes.begin(), Bytes.end());
 	flatbuffers::Verifier Verifier(HeaderBytes.data(), HeaderBytes.size(), MaxDepth, MaxTables);
-	if (!Wire::VerifyItemBuffer(Verifier))
+	if (!Wire::VerifySizePrefixedItemBuffer(Verifier))
 	{
 		return Refuse(
 			EFault::BadTable, "", "The header of " + std::to_string(Bytes.size()) + " bytes is not a valid Item.");
 	}
-	const Wire::Item& Item = *Wire::GetItem(HeaderBytes.data());
+	const Wire::Item& Item = *Wire::GetSizePrefixedItem(HeaderBytes.data());
 	Kind = ItemOf(Item.body_type());
 	if (Kind == EItem::None || (Kind != EItem::Fault && IsRequest(Kind) != (Receiver == EReceiver::GarmentApplication)))
 	{

@@ -124,7 +124,8 @@ void AddSequence(FChunkList& Chunks, const std::shared_ptr<const FPackedJointSeq
 template <class TBody>
 void FinishHeader(FEncodedItem& Item, FBuilder& Builder, flatbuffers::Offset<TBody> Body)
 {
-	Builder.Finish(Wire::CreateItem(Builder, Wire::BodyTraits<TBody>::enum_value, Body.Union(), Item.PayloadBytes));
+	Builder.FinishSizePrefixed(
+		Wire::CreateItem(Builder, Wire::BodyTraits<TBody>::enum_value, Body.Union(), Item.PayloadBytes));
 	const auto View = Builder.GetBufferSpan();
 	Item.Header.assign(View.begin(), View.end());
 }

@@ -43,7 +43,8 @@ const TTable* Root(FByteView Bytes, FBytes& Aligned)
 {
 	Aligned.assign(Bytes.begin(), Bytes.end());
 	flatbuffers::Verifier Verifier(Aligned.data(), Aligned.size());
-	return Verifier.VerifyBuffer<TTable>(nullptr) ? flatbuffers::GetRoot<TTable>(Aligned.data()) : nullptr;
+	return Verifier.VerifySizePrefixedBuffer<TTable>(nullptr) ? flatbuffers::GetSizePrefixedRoot<TTable>(Aligned.data())
+															  : nullptr;
 }
 
 std::string Text(const flatbuffers::String* String)
@@ -94,7 +95,7 @@ FBytes EncodeHello(const FHello& Hello)
 {
 	flatbuffers::FlatBufferBuilder Builder;
 	const auto Program = Builder.CreateString(Hello.Program);
-	Builder.Finish(Wire::CreateHello(
+	Builder.FinishSizePrefixed(Wire::CreateHello(
 		Builder, Hello.MinVersion, Hello.MaxVersion, Program, Hello.WindowBytes, Hello.MaxPieceBytes));
 	return Finish(Builder);
 }
@@ -103,7 +104,8 @@ FBytes EncodeWelcome(const FWelcome& Welcome)
 {
 	flatbuffers::FlatBufferBuilder Builder;
 	const auto Program = Builder.CreateString(Welcome.Program);
-	Builder.Finish(Wire::CreateWelcome(Builder, Welcome.Version, Program, Welcome.WindowBytes, Welcome.MaxPieceBytes));
+	Builder.FinishSizePrefixed(
+		Wire::CreateWelcome(Builder, Welcome.Version, Program, Welcome.WindowBytes, Welcome.MaxPieceBytes));
 	return Finish(Builder);
 }
 
@@ -111,7 +113,7 @@ FBytes EncodeRefused(const FRefused& Refused)
 {
 	flatbuffers::FlatBufferBuilder Builder;
 	const auto Sentence = Builder.CreateString(Refused.Sentence);
-	Builder.Finish(Wire::CreateRefused(
+	Builder.FinishSizePrefixed(Wire::CreateRefused(
 		Builder, static_cast<std::uint16_t>(Refused.Code), Sentence, Refused.MinVersion, Refused.MaxVersion));
 	return Finish(Builder);
 }
