@@ -10,6 +10,8 @@
 #include "Host/MaterialEvaluation.h"
 #include "Rendering/SkeletalMeshLODRenderData.h"
 #include "Rendering/SkeletalMeshRenderData.h"
+#include "Templates/Casts.h"
+#include "UObject/Class.h"
 #include "Zef/Statistics.h"
 
 #include <set>
