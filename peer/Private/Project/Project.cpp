@@ -22,9 +22,9 @@ const char* ObjectTypeName(EObjectType Type)
 	return "invalid";
 }
 
-FMeshCounts CountMesh(const FSurfaceMesh& Mesh)
+FObjectCounts CountObject(const FSurfaceMesh& Mesh)
 {
-	FMeshCounts Counts;
+	FObjectCounts Counts;
 	for (const FSurface& Surface : Mesh.Surfaces)
 	{
 		Counts.Vertices += Surface.Positions.size();

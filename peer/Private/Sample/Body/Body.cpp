@@ -34,7 +34,7 @@ FTriangleMesh MakeBodySkin(const IField& Body)
 		{
 			return Finest;
 		}
-		if (Touches(Measures::Skull + FVec3{7.0f, 0, -3.0f}, 4.2f) ||
+		if (Touches(Measures::Skull + FVec3{6.2f, 0, -4.5f}, 5.0f) ||
 			Touches(Measures::Skull + FVec3{-1.0f, 7.6f, -1.0f}, 2.2f) || Touches(HandCenter, 8.0f))
 		{
 			return 2 * Finest;

@@ -43,7 +43,7 @@ float LipRelief(const FVec3& Q)
 		Height += 0.24f * std::sqrt(Inside) * Hump(Upper * 0.92f + 0.06f);
 		Height += 0.32f * std::sqrt(Inside) * Hump(Lower * 0.88f + 0.06f);
 	}
-	Height -= 0.13f * Bell(Q.Z - Line, 0.17f) * SmoothStep(1.12f, 0.8f, T);
+	Height -= 0.06f * Bell(Q.Z - Line, 0.22f) * SmoothStep(1.12f, 0.8f, T);
 	// The corner lies in a small hollow.
 	Height -= 0.10f * Bell(Q.Z - MouthCorner, 0.35f) * Bell(Q.Y - MouthHalfWidth - 0.1f, 0.3f);
 	// Groove between nose and lip.
@@ -94,13 +94,13 @@ float UpperLid(float T)
 {
 	// Highest a little towards the nose; the outer corner lies higher than the inner one.
 	const float Arc = 1 - T * T;
-	return 0.10f * T + 0.58f * std::pow(std::max(Arc, 0.0f), 0.72f) * (1 - 0.10f * T);
+	return 0.10f * T + 0.50f * std::pow(std::max(Arc, 0.0f), 0.72f) * (1 - 0.10f * T);
 }
 
 float LowerLid(float T)
 {
 	const float Arc = 1 - T * T;
-	return 0.10f * T - 0.40f * std::pow(std::max(Arc, 0.0f), 0.85f) * (1 + 0.12f * T);
+	return 0.10f * T - 0.38f * std::pow(std::max(Arc, 0.0f), 0.85f) * (1 + 0.12f * T);
 }
 
 float Relief(const FVec3& P)

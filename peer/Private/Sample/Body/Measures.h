@@ -22,7 +22,7 @@ constexpr FVec3 Head{-0.6f, 0, 155.5f};
 constexpr FVec3 HeadTop{0.6f, 0, 175.0f};
 
 constexpr FVec3 Clavicle{-0.6f, 2.2f, 141.5f};
-constexpr FVec3 Shoulder{-1.6f, 16.3f, 140.4f};
+constexpr FVec3 Shoulder{-1.6f, 15.7f, 139.9f};
 /** Unit vector from shoulder to wrist: 36 degrees off the vertical. */
 constexpr FVec3 ArmDirection{0.0f, 0.5878f, -0.8090f};
 constexpr float UpperArm = 27.5f;

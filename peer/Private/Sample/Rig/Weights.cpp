@@ -2,6 +2,9 @@
 #include "Sample/Rig/Weights.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "Math/Matrix.h"
 
 namespace Zef::Peer
 {
@@ -17,18 +20,32 @@ float DistanceToLine(const FVec3& P, const FVec3& A, const FVec3& B)
 	return Distance(P, A + Axis * T);
 }
 
-/** Pelvis and collar bones are plates, not lines: flesh beside them belongs to them. */
-float DistanceToBone(const FRigJoint& Joint, const FVec3& P)
+/** How far to either side flesh belongs to a bone of the trunk as if it lay on it, cm. */
+float BreadthOf(const FRigJoint& Joint)
 {
-	if (Joint.Name == "pelvis")
+	static const std::pair<const char*, float> Breadths[] = {{"pelvis", 9.0f}, {"spine_01", 7.5f}, {"spine_02", 6.0f},
+		{"spine_03", 6.5f}, {"spine_04", 8.0f}, {"spine_05", 9.0f}};
+	for (const auto& [Name, Breadth] : Breadths)
 	{
-		return DistanceToLine(P, {-2.0f, -8.5f, 97.5f}, {-2.0f, 8.5f, 97.5f});
+		if (Joint.Name == Name)
+		{
+			return Breadth;
+		}
 	}
-	if (Joint.Name == "spine_05")
-	{
-		return std::min(DistanceToLine(P, Joint.Place, Joint.End), DistanceToLine(P, {-2, -8, 134}, {-2, 8, 134}));
-	}
-	return DistanceToLine(P, Joint.Place, Joint.End);
+	return 0;
+}
+
+float DistanceToBone(const FRigJoint& Joint, float Breadth, const FVec3& P)
+{
+	const float Side = std::max(std::fabs(P.Y) - Breadth, 0.0f);
+	return Breadth > 0 ? DistanceToLine({P.X, Side, P.Z}, Joint.Place, Joint.End)
+					   : DistanceToLine(P, Joint.Place, Joint.End);
+}
+
+/** The face is bone: from the jaw and the base of the skull on, all moves with the head. */
+float ShareOfHead(const FVec3& P)
+{
+	return std::max(SmoothStep(152.0f, 156.5f, P.Z + 0.7f * P.X), SmoothStep(156.5f, 161.0f, P.Z));
 }
 
 } // namespace
@@ -68,12 +85,14 @@ std::vector<FBoneWeight> WeightsAt(const FSkeleton& Skeleton, const FVec3& Place
 		const bool bHasFlesh = Distance(Joints[J].Place, Joints[J].End) > 0;
 		if (bHasFlesh && static_cast<float>(Joints[J].Side) * Place.Y > -Middle)
 		{
-			Distances[J] = DistanceToBone(Joints[J], Place);
+			Distances[J] = DistanceToBone(Joints[J], Joints[J].Side == 0 ? BreadthOf(Joints[J]) : 0, Place);
 			Nearest = Distances[J] < Distances[Nearest] ? J : Nearest;
 		}
 	}
 	const float Power = Joints[Nearest].bHand ? HandPower : LimbPower;
 
+	const float InHead = ShareOfHead(Place);
+	const auto Head = static_cast<std::size_t>(Skeleton.Find("head"));
 	std::vector<FBoneWeight> Weights;
 	float Sum = 0;
 	for (std::size_t J = 1; J < Joints.size(); ++J)
@@ -89,6 +108,7 @@ std::vector<FBoneWeight> WeightsAt(const FSkeleton& Skeleton, const FVec3& Place
 		{
 			Weight *= SmoothStep(-Middle, Middle, static_cast<float>(Joints[J].Side) * Place.Y);
 		}
+		Weight *= J == Head ? 1.0f : 1 - InHead;
 		Weights.push_back({static_cast<std::int32_t>(J), Weight});
 		Sum += Weight;
 	}
@@ -126,20 +146,6 @@ FSkinWeights RigidWeights(int Joint, std::size_t VertexCount)
 		Result.AddVertex({{Joint, 1.0f}});
 	}
 	return Result;
-}
-
-FMatrix34 FMatrix34::From(const FRigid& Rigid)
-{
-	return {Rotate(Rigid.Rotation, {1, 0, 0}), Rotate(Rigid.Rotation, {0, 1, 0}), Rotate(Rigid.Rotation, {0, 0, 1}),
-		Rigid.Translation};
-}
-
-void FMatrix34::AddScaled(const FMatrix34& Other, float Scale)
-{
-	ColumnX += Other.ColumnX * Scale;
-	ColumnY += Other.ColumnY * Scale;
-	ColumnZ += Other.ColumnZ * Scale;
-	Shift += Other.Shift * Scale;
 }
 
 void ApplyMoves(FTriangleMesh& Mesh, const FSkinWeights& Weights, const std::vector<FRigid>& Moves)

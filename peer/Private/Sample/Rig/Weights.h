@@ -32,15 +32,4 @@ FSkinWeights RigidWeights(int Joint, std::size_t VertexCount);
 /** Moves a mesh by the weighted moves of the joints; normals and tangents are turned along. */
 void ApplyMoves(FTriangleMesh& Mesh, const FSkinWeights& Weights, const std::vector<FRigid>& Moves);
 
-/** A turn and a shift as a matrix, which, other than quaternions, may be added up. */
-struct FMatrix34
-{
-	FVec3 ColumnX{}, ColumnY{}, ColumnZ{}, Shift{};
-
-	static FMatrix34 From(const FRigid& Rigid);
-	void AddScaled(const FMatrix34& Other, float Scale);
-	FVec3 Point(const FVec3& P) const { return ColumnX * P.X + ColumnY * P.Y + ColumnZ * P.Z + Shift; }
-	FVec3 Direction(const FVec3& D) const { return ColumnX * D.X + ColumnY * D.Y + ColumnZ * D.Z; }
-};
-
 } // namespace Zef::Peer

@@ -62,13 +62,13 @@ struct FProject
 const char* ObjectTypeName(EObjectType Type);
 
 /** Counts over all surfaces of a mesh. */
-struct FMeshCounts
+struct FObjectCounts
 {
 	std::size_t Vertices = 0;
 	std::size_t Triangles = 0;
 	std::size_t TextureBytes = 0;
 };
-FMeshCounts CountMesh(const FSurfaceMesh& Mesh);
+FObjectCounts CountObject(const FSurfaceMesh& Mesh);
 
 /** The five flags of message 3: flag 0 says that there is a garment, flag 2 that there is an avatar. */
 FAvailability ProjectAvailability(const FProject& Project);
