@@ -2,34 +2,38 @@
 #include "AtomicFile.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <filesystem>
+#include <random>
+#include <system_error>
 
 namespace Host
 {
+namespace
+{
+/** A name of its own, so that two programs that write the same target do not write into one file. */
+std::string NameBeside(const std::string& Target)
+{
+	std::random_device Random;
+	return Target + ".part-" + std::to_string(Random());
+}
+
+void Remove(const std::string& Path)
+{
+	std::error_code Ignored;
+	std::filesystem::remove(Path, Ignored);
+}
+} // namespace
+
 FAtomicFile::FAtomicFile(const FString& Path)
 	: Target(TCHAR_TO_UTF8(*Path))
-	, Beside(Target + ".XXXXXX")
+	, Beside(NameBeside(Target))
 {
-	// A name of its own, so that two programs that write the same target do not write into one file.
-	const int Descriptor = mkstemp(Beside.data());
-	if (Descriptor < 0)
-	{
-		NoteError();
-		return;
-	}
-	// mkstemp makes the file readable by the user alone; a saved file gets what the user's mask allows.
-	const mode_t Mask = umask(0);
-	umask(Mask);
-	fchmod(Descriptor, 0666 & ~Mask);
-	Stream = fdopen(Descriptor, "wb");
+	// "x" refuses a file that is there already.
+	Stream = std::fopen(Beside.c_str(), "wbx");
 	if (!Stream)
 	{
-		NoteError();
-		close(Descriptor);
-		unlink(Beside.c_str());
+		NoteError(errno);
 	}
 }
 
@@ -38,38 +42,36 @@ FAtomicFile::~FAtomicFile()
 	if (Stream)
 	{
 		std::fclose(Stream);
-		unlink(Beside.c_str());
+		Remove(Beside);
 	}
 }
 
 bool FAtomicFile::Commit()
 {
-	std::FILE* Closing = Stream;
-	const bool bFlushed = std::fflush(Stream) == 0 && std::ferror(Stream) == 0;
-	if (!bFlushed)
-	{
-		NoteError();
-	}
+	// The first error is the one that tells what happened; closing goes on regardless.
+	int FirstError = std::fflush(Stream) == 0 && std::ferror(Stream) == 0 ? 0 : errno;
+	const bool bClosed = std::fclose(Stream) == 0;
 	Stream = nullptr;
-	const bool bClosed = std::fclose(Closing) == 0;
-	if (bFlushed && !bClosed)
+	if (FirstError == 0 && !bClosed)
 	{
-		NoteError();
+		FirstError = errno;
 	}
-	if (bFlushed && bClosed && std::rename(Beside.c_str(), Target.c_str()) == 0)
+	if (FirstError == 0)
 	{
-		return true;
+		std::error_code Failure;
+		std::filesystem::rename(Beside, Target, Failure);
+		FirstError = Failure.value();
 	}
-	if (bFlushed && bClosed)
+	if (FirstError != 0)
 	{
-		NoteError();
+		NoteError(FirstError);
+		Remove(Beside);
 	}
-	unlink(Beside.c_str());
-	return false;
+	return FirstError == 0;
 }
 
-void FAtomicFile::NoteError()
+void FAtomicFile::NoteError(int Code)
 {
-	Error = FString(UTF8_TO_TCHAR(std::strerror(errno)));
+	Error = FString(UTF8_TO_TCHAR(std::strerror(Code)));
 }
 } // namespace Host

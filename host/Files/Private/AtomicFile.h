@@ -28,7 +28,7 @@ public:
 	const FString& GetError() const { return Error; }
 
 private:
-	void NoteError();
+	void NoteError(int Code);
 
 	std::string Target;
 	std::string Beside;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EditorAssetLibrary.h"
 #include "EngineFixture.h"
-#include "Host/FilePackageStore.h"
-#include "Host/LogSink.h"
 #include "Host/MaterialDeclaration.h"
 #include "Host/PackageStore.h"
 #include "Materials/Material.h"
@@ -15,30 +13,22 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <vector>
 
 namespace
 {
-/** A store over the folder "/Shelf". */
-class FilePackageStore : public FEngineFixture, private Host::ILogSink
+/** The fixture's store over one more folder, "/Shelf". */
+class FilePackageStore : public FEngineFixture
 {
 protected:
 	virtual void SetUp() override
 	{
 		FEngineFixture::SetUp();
-		Former = Host::GetPackageStore();
-		Host::SetPackageStore(&Shelf);
 		Host::MountContent(TEXT("/Shelf"), UTF8_TO_TCHAR(Folder.GetPath().c_str()));
-		bToStderr = Host::SetLogToStderr(false);
-		Host::AddLogSink(this);
 	}
 
 	virtual void TearDown() override
 	{
-		Host::RemoveLogSink(this);
-		Host::SetLogToStderr(bToStderr);
 		Host::UnmountContent(TEXT("/Shelf"));
-		Host::SetPackageStore(Former);
 		FEngineFixture::TearDown();
 	}
 
@@ -48,21 +38,7 @@ protected:
 		std::ofstream(Folder / Name) << Text;
 	}
 
-	virtual void Write(const Host::FLogLine& Line) override
-	{
-		if (Line.Verbosity == ELogVerbosity::Error)
-		{
-			Errors.push_back(TCHAR_TO_UTF8(*Line.Text));
-		}
-	}
-
 	FTemporaryFolder Folder;
-	std::vector<std::string> Errors;
-
-private:
-	Host::FFilePackageStore Shelf;
-	Host::IPackageStore* Former = nullptr;
-	bool bToStderr = true;
 };
 
 constexpr const char* Red =
@@ -108,18 +84,15 @@ TEST_F(FilePackageStore, DoesNotLeaveItsFolder)
 TEST_F(FilePackageStore, NamesTheFileAndTheFaultOfABadOne)
 {
 	WriteFile("Bad.json", R"({"type": "Material", "version": 1, "parameters": {"scalars": {"Roughness": "high"}}})");
+	Log().ExpectError((Folder / "Bad.json") + " is no material. At /parameters/scalars/Roughness: a number from ");
 	EXPECT_EQ(Host::GetPackageStore()->Load(TEXT("/Shelf/Bad")), nullptr);
-	ASSERT_EQ(Errors.size(), 1u);
-	EXPECT_EQ(
-		Errors[0].find((Folder / "Bad.json") + " is no material. At /parameters/scalars/Roughness: a number from "), 0u)
-		<< Errors[0];
 	EXPECT_EQ(FindPackage(nullptr, TEXT("/Shelf/Bad")), nullptr) << "no half-made package stays";
 }
 
 TEST_F(FilePackageStore, SaysWhenAPackageHasNoFile)
 {
+	Log().ExpectError("/Shelf/Missing has no file in a mounted content folder.");
 	EXPECT_EQ(Host::GetPackageStore()->Load(TEXT("/Shelf/Missing")), nullptr);
-	EXPECT_EQ(Errors, (std::vector<std::string>{"/Shelf/Missing has no file in a mounted content folder."}));
 }
 
 TEST_F(FilePackageStore, FindsAnAssetThatIsOnlyInMemory)

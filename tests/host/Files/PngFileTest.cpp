@@ -140,3 +140,14 @@ TEST(PngFile, SaysWhyAFileCannotBeWritten)
 	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Error)),
 		(Folder / "missing/a.png") + " was not written: No such file or directory.");
 }
+
+TEST(PngFile, LeavesNothingBesideATargetThatCannotBeReplaced)
+{
+	const FTemporaryFolder Folder;
+	const FBytes Pixels = {1, 2, 3, 4};
+	std::filesystem::create_directories(Folder / "a.png/inner");
+	FString Error;
+	EXPECT_FALSE(Host::WritePng(ToPath(Folder / "a.png"), 1, 1, 4, 8, Pixels.data(), &Error));
+	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Error)), (Folder / "a.png") + " was not written: Is a directory.");
+	EXPECT_EQ(Folder.Entries(), (std::vector<std::string>{"a.png"}));
+}

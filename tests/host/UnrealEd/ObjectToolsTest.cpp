@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "EngineFixture.h"
-#include "Host/DialogService.h"
 #include "Materials/MaterialInstanceConstant.h"
 #include "Engine/Texture2D.h"
 #include "ObjectTools.h"
@@ -11,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace
 {
@@ -26,31 +24,6 @@ std::string SanitizedPackage(const TCHAR* Name)
 {
 	return TCHAR_TO_UTF8(*UPackageTools::SanitizePackageName(Name));
 }
-
-/** Notes the messages that the user would see. */
-class FMessageRecorder : public Host::IDialogService
-{
-public:
-	FMessageRecorder()
-		: Former(Host::GetDialogService())
-	{
-		Host::SetDialogService(this);
-	}
-	~FMessageRecorder() { Host::SetDialogService(Former); }
-
-	virtual EAppReturnType::Type OpenMessage(
-		EAppMsgCategory, EAppMsgType::Type, EAppReturnType::Type Default, const FText& Message, const FText&) override
-	{
-		Messages.push_back(TCHAR_TO_UTF8(*Message.ToString()));
-		return Default;
-	}
-	virtual Host::FSuppressableAnswer OpenSuppressable(const Host::FSuppressableRequest&) override { return {}; }
-
-	std::vector<std::string> Messages;
-
-private:
-	Host::IDialogService* Former;
-};
 } // namespace
 
 TEST_F(ObjectToolsTest, PutsAnUnderscoreForEachCharacterThatAnObjectNameMayNotHold)
@@ -74,13 +47,12 @@ TEST_F(ObjectToolsTest, DeletesAnObjectThatNobodyRefersTo)
 {
 	UPackage* Package = CreatePackage(TEXT("/Game/Old"));
 	UTexture2D* Texture = NewObject<UTexture2D>(Package, TEXT("Old"), EObjectFlags(RF_Public | RF_Standalone));
-	FMessageRecorder Recorder;
 	EXPECT_TRUE(ObjectTools::DeleteSingleObject(Texture));
 	EXPECT_FALSE(IsValid(Texture));
 	EXPECT_FALSE(Texture->HasAnyFlags(RF_Standalone));
 	EXPECT_TRUE(Package->IsDirty());
 	EXPECT_EQ(StaticFindObject(UObject::StaticClass(), Package, TEXT("Old")), nullptr);
-	EXPECT_TRUE(Recorder.Messages.empty());
+	EXPECT_TRUE(Dialogs().Messages().empty());
 }
 
 TEST_F(ObjectToolsTest, KeepsAnObjectInUseAndTellsTheUserUnlessItNeedNotCheck)
@@ -89,11 +61,11 @@ TEST_F(ObjectToolsTest, KeepsAnObjectInUseAndTellsTheUserUnlessItNeedNotCheck)
 	UMaterialInstanceConstant* Instance =
 		NewObject<UMaterialInstanceConstant>(CreatePackage(TEXT("/Game/M")), TEXT("M"), RF_Standalone);
 	Instance->SetTextureParameterValueEditorOnly(FMaterialParameterInfo(TEXT("BaseColor_Texture")), Texture);
-	FMessageRecorder Recorder;
 
 	EXPECT_FALSE(ObjectTools::DeleteSingleObject(Texture));
 	EXPECT_TRUE(IsValid(Texture));
-	EXPECT_EQ(Recorder.Messages, (std::vector<std::string>{"/Game/T.T is in use and was not deleted."}));
+	ASSERT_EQ(Dialogs().Messages().size(), 1u);
+	EXPECT_EQ(ToStdString(Dialogs().Messages()[0].Message.ToString()), "/Game/T.T is in use and was not deleted.");
 
 	EXPECT_TRUE(ObjectTools::DeleteSingleObject(Texture, false));
 	EXPECT_FALSE(IsValid(Texture));
