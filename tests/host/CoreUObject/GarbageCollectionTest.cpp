@@ -220,11 +220,17 @@ public:
 	{
 		Collector.AddReferencedObject(Object);
 		Collector.AddReferencedObjects(Objects);
+		Collector.AddReferencedObjects(Keys);
+		Collector.AddReferencedObjects(Values);
+		Collector.AddReferencedObjects(Members);
 	}
 	virtual FString GetReferencerName() const override { return TEXT("FKeeper"); }
 
 	UTestNode* Object = nullptr;
 	TArray<TObjectPtr<UTestNode>> Objects;
+	TMap<UTestNode*, int32> Keys;
+	TMap<int32, TObjectPtr<UTestNode>> Values;
+	TSet<UTestNode*> Members;
 };
 
 TEST_F(GarbageCollection, PlainClassesKeepWhatTheyReport)
@@ -245,6 +251,26 @@ TEST_F(GarbageCollection, PlainClassesKeepWhatTheyReport)
 	}
 	CollectGarbage(RF_NoFlags);
 	EXPECT_FALSE(Many.IsValid());
+}
+
+TEST_F(GarbageCollection, PlainClassesMayHoldMapsAndSets)
+{
+	FKeeper Keeper;
+	UTestNode* const Kept = MakeNode().Get();
+	UTestNode* const Garbage = MakeNode().Get();
+	Keeper.Keys = {{Kept, 1}, {Garbage, 2}};
+	Keeper.Values = {{1, Kept}, {2, Garbage}};
+	Keeper.Members = {Kept, Garbage};
+	Garbage->MarkAsGarbage();
+
+	CollectGarbage(RF_NoFlags);
+
+	EXPECT_EQ(Keeper.Keys.Num(), 1);
+	EXPECT_EQ(Keeper.Keys.FindRef(Kept), 1);
+	EXPECT_EQ(Keeper.Values.FindRef(1), Kept);
+	EXPECT_EQ(Keeper.Values.FindRef(2), nullptr);
+	EXPECT_EQ(Keeper.Members.Num(), 1);
+	EXPECT_TRUE(Keeper.Members.Contains(Kept));
 }
 
 TEST_F(GarbageCollection, StrongPointersKeepTheirObject)

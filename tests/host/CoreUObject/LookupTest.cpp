@@ -145,6 +145,22 @@ private:
 	const bool bFormerToStderr;
 };
 
+TEST_F(Lookup, APackageExistsWhenTheStoreHasIt)
+{
+	EXPECT_FALSE(FPackageName::DoesPackageExist(TEXT("/Game/Stored")));
+	FOnePackage Store;
+	Host::MountContent(TEXT("/Game/"), TEXT("/data"));
+	CreatePackage(TEXT("/Game/OnlyInMemory"));
+
+	FString Filename;
+	EXPECT_TRUE(FPackageName::DoesPackageExist(TEXT("/Game/Stored"), &Filename));
+	EXPECT_EQ(Filename, TEXT("/data/Stored"));
+	EXPECT_TRUE(FPackageName::DoesPackageExist(TEXT("/Game/Stored.Stored")));
+	EXPECT_FALSE(FPackageName::DoesPackageExist(TEXT("/Game/OnlyInMemory")));
+
+	Host::UnmountContent(TEXT("/Game/"));
+}
+
 TEST_F(Lookup, LoadingWhatDoesNotExistWarnsAndGivesNull)
 {
 	FOnePackage Store;

@@ -6,5 +6,7 @@
 #include "UObject/PropertyChangedEvent.h"
 #include "UObject/PropertyContainers.h"
 #include "UObject/PropertyObjects.h"
-#include "UObject/PropertyTypes.h"
+#include "UObject/PropertyStructs.h"
+#include "UObject/PropertyTexts.h"
 #include "UObject/PropertyIterator.h"
+#include "UObject/PropertyNumbers.h"
