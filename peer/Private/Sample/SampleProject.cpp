@@ -3,6 +3,8 @@
 
 #include "Sample/Avatar/Avatar.h"
 #include "Sample/Garment/Garment.h"
+#include "Sample/Outfit/Outfit.h"
+#include "Sample/Prop/Prop.h"
 
 namespace Zef::Peer
 {
@@ -14,6 +16,8 @@ FProject MakeSampleProject()
 	Project.Name = "sample";
 	Project.Objects.push_back(MakeGarment(Figure));
 	Project.Objects.push_back(MakeAvatar(*Figure));
+	Project.Objects.push_back(MakeOutfit(*Figure));
+	Project.Objects.push_back(MakeProp());
 	return Project;
 }
 

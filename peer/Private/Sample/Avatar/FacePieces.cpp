@@ -59,7 +59,7 @@ FTriangleMesh MakeBrows(const IField& Body)
 		{
 			const float Y = Lerp(5.05f, 1.35f, U);
 			const float S = 1 - U;
-			const float Middle = 2.35f + 0.62f * std::sin(Pi * 0.62f * (S + 0.12f)) - 0.55f * SmoothStep(0.6f, 1.0f, S);
+			const float Middle = 2.42f + 0.50f * std::sin(Pi * 0.62f * (S + 0.15f)) - 0.50f * SmoothStep(0.6f, 1.0f, S);
 			const float Half =
 				0.22f * (1 - SmoothStep(0.3f, 1.05f, S)) * (0.25f + 0.75f * SmoothStep(-0.05f, 0.22f, S)) + 0.02f;
 			const float Lift = 0.02f + 0.05f * std::sin(Pi * V);

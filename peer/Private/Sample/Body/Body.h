@@ -11,6 +11,7 @@ namespace Zef::Peer
 /** Parts of the right side, to be mirrored; each is a solid of its own. */
 FFieldPtr MakeTrunk();
 FFieldPtr MakeLeg();
+FFieldPtr MakeFoot();
 FFieldPtr MakeArm();
 FFieldPtr MakeHand();
 FFieldPtr MakeHead();

@@ -9,7 +9,7 @@ namespace Zef::Peer::Face
 namespace
 {
 
-constexpr float MouthCorner = -5.62f;
+constexpr float MouthCorner = -5.5f;
 
 /** Hump of height 1 over 0..1, level at both ends. */
 float Hump(float S)

@@ -17,24 +17,24 @@ void JoinToe(FBlend& Foot, const FVec3& Root, const FVec3& Tip, float RootRadius
 	Foot.Join(RoundCone(Middle, Tip, TipRadius * 0.92f, TipRadius), 0.5f);
 }
 
+} // namespace
+
 FFieldPtr MakeFoot()
 {
 	auto Foot = std::make_unique<FBlend>();
 	// Heel, instep, ball, outer edge.
 	Foot->Join(Ellipsoid({-3.6f, 7.5f, 3.4f}, {3.0f, 2.9f, 3.4f}), 0);
 	Foot->Join(RoundCone({-1.4f, 7.6f, 7.2f}, {8.0f, 7.6f, 3.2f}, 3.0f, 2.3f), 2.5f);
-	Foot->Join(Ellipsoid({9.6f, 7.9f, 2.2f}, {4.2f, 4.2f, 2.1f}), 2.5f);
-	Foot->Join(RoundCone({-2.5f, 8.3f, 2.2f}, {9.0f, 10.4f, 1.7f}, 2.2f, 1.7f), 2.0f);
-	JoinToe(*Foot, {11.4f, 5.9f, 1.7f}, {16.6f, 6.5f, 1.25f}, 1.5f, 1.2f);
-	JoinToe(*Foot, {12.2f, 7.9f, 1.5f}, {16.9f, 8.5f, 1.0f}, 1.1f, 0.88f);
-	JoinToe(*Foot, {11.9f, 9.3f, 1.4f}, {15.9f, 10.1f, 0.95f}, 1.0f, 0.82f);
-	JoinToe(*Foot, {11.2f, 10.6f, 1.3f}, {14.6f, 11.5f, 0.9f}, 0.95f, 0.78f);
-	JoinToe(*Foot, {10.0f, 11.6f, 1.2f}, {12.9f, 12.5f, 0.85f}, 0.95f, 0.78f);
+	Foot->Join(Ellipsoid({9.6f, 8.1f, 2.2f}, {4.2f, 3.7f, 2.1f}), 2.5f);
+	Foot->Join(RoundCone({-2.5f, 8.3f, 2.2f}, {9.0f, 10.0f, 1.7f}, 2.1f, 1.6f), 2.0f);
+	JoinToe(*Foot, {11.4f, 6.3f, 1.7f}, {16.6f, 6.8f, 1.25f}, 1.45f, 1.15f);
+	JoinToe(*Foot, {12.2f, 8.0f, 1.5f}, {16.9f, 8.4f, 1.0f}, 1.05f, 0.82f);
+	JoinToe(*Foot, {11.9f, 9.2f, 1.4f}, {15.9f, 9.7f, 0.95f}, 0.95f, 0.77f);
+	JoinToe(*Foot, {11.2f, 10.2f, 1.3f}, {14.6f, 10.8f, 0.9f}, 0.9f, 0.72f);
+	JoinToe(*Foot, {10.0f, 11.0f, 1.2f}, {12.9f, 11.6f, 0.85f}, 0.9f, 0.72f);
 	Foot->Keep(HalfSpace({0, 0, 0.1f}, {0, 0, -1}), 0.8f);
 	return Foot;
 }
-
-} // namespace
 
 FFieldPtr MakeLeg()
 {

@@ -34,6 +34,8 @@ constexpr FVec3 Hip{0.0f, 8.8f, 90.0f};
 constexpr FVec3 Knee{0.7f, 8.1f, 49.0f};
 constexpr FVec3 Ankle{-1.8f, 7.6f, 8.6f};
 constexpr FVec3 Ball{10.8f, 8.4f, 2.2f};
+/** What the soles of her shoes lift her by when she stands and walks. */
+constexpr float SoleHeight = 0.9f;
 constexpr FVec3 ToeTip{17.4f, 8.6f, 1.6f};
 
 /** Middle between the ears, to which the parts of the head are relative. */

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "Sample/Garment/Bodice.h"
+
 namespace Zef::Peer
 {
 
@@ -22,6 +24,7 @@ bool MeetsClothes(const FVec3& P, const FRigJoint& Bone)
 
 FBodyCollider::FBodyCollider(const FFigure& Figure)
 {
+	const FFieldPtr Bodice = MakeBodiceSolid();
 	const FTriangleMesh& Whole = Figure.Skin;
 	const FInfluences& Packed = Figure.SkinWeights.Packed;
 	std::vector<std::uint32_t> NewIndex(Whole.Positions.size(), None);
@@ -31,7 +34,9 @@ FBodyCollider::FBodyCollider(const FFigure& Figure)
 		const auto Bone = static_cast<std::size_t>(Packed.Weights[First].BoneIndex);
 		if (MeetsClothes(Whole.Positions[V], Figure.Skeleton.Joints()[Bone]))
 		{
-			NewIndex[V] = Skin.Add(Whole.Positions[V], Whole.Normals[V]);
+			const FVec3& P = Whole.Positions[V];
+			const float Below = P.Z > 104 && P.Z < 142 ? std::max(-Bodice->At(P), 0.0f) : 0.0f;
+			NewIndex[V] = Skin.Add(P + Whole.Normals[V] * Below, Whole.Normals[V]);
 			Weights.AddVertex({Packed.Weights.begin() + First, Packed.Weights.begin() + Packed.FirstWeight[V + 1]});
 		}
 	}

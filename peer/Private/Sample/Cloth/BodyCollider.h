@@ -25,7 +25,10 @@ struct FColliderPose
 class FBodyCollider
 {
 public:
-	/** Skin of trunk, arms and legs; head, hands and feet do not meet clothes. */
+	/**
+	 * Skin of trunk, arms and legs; head, hands and feet do not meet clothes. Where the bodice spans hollows of the
+	 * trunk, the surface is the bodice's.
+	 */
 	explicit FBodyCollider(const FFigure& Figure);
 
 	FColliderPose PoseAt(const FFigure& Figure, const std::vector<FRigid>& Places) const;

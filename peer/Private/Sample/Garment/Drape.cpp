@@ -12,7 +12,7 @@ namespace
 constexpr int SkirtColumns = 192, SkirtRows = 45;
 constexpr float SkirtLength = 66;
 constexpr int CapeletColumns = 112, CapeletRows = 26;
-constexpr float CapeletLength = 35;
+constexpr float CapeletLength = 31;
 
 std::vector<float> RowRadii(float Inner, float ClothLength, int Rows)
 {
@@ -50,15 +50,15 @@ FHangingCloth Sewn(FCloth Cloth, std::vector<FVec3> Seam, const FFigure& Figure)
 FHangingCloth MakeSkirtCloth(const FFigure& Figure)
 {
 	FClothNature Nature;
-	Nature.Bend = 0.10f;
-	Nature.Thickness = 0.8f;
+	Nature.Bend = 0.07f;
+	Nature.Thickness = 0.35f;
 	FCloth Cloth(SkirtColumns, SkirtRows, true, Nature);
 	const FFieldPtr Bodice = MakeBodiceSolid();
 	std::vector<FVec3> Seam = MakeWaistLine(*Bodice, SkirtColumns, 0.25f);
 	Seam.resize(SkirtColumns, Seam.back());
 
 	// Part of a circle: the waist is the inner edge, and what the circle widens by makes the folds.
-	constexpr float PartOfCircle = 0.70f;
+	constexpr float PartOfCircle = 0.84f;
 	const float Angle = 2 * Pi * PartOfCircle / SkirtColumns;
 	const float Inner = LengthAround(Seam, true) / (2 * Pi * PartOfCircle);
 	Cloth.SetPattern(RowRadii(Inner, SkirtLength, SkirtRows), Angle);
@@ -92,7 +92,7 @@ FHangingCloth MakeCapeletCloth(const FFigure& Figure)
 {
 	FClothNature Nature;
 	Nature.Bend = 0.03f;
-	Nature.Thickness = 1.15f;
+	Nature.Thickness = 0.7f;
 	Nature.Drag = 1.4f;
 	FCloth Cloth(CapeletColumns, CapeletRows, false, Nature);
 

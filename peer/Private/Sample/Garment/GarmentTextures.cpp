@@ -110,14 +110,15 @@ FGarmentMaterials AddGarmentMaterials(FAssembly& Assembly)
 												.NormalMap(TwillNormal, 0.9f)
 												.Roughness(0.7f)
 												.RoughnessMap(TwillRoughness, 1)
-												.Specular(0.35f));
+												.Specular(0.35f)
+												.Place(0.75f, 0.75f));
 	Keys.Bias = Assembly.AddMaterial(FLook("Herringbone Bias", Kind::Silk)
 										 .ColorMap(TwillColor)
 										 .NormalMap(TwillNormal, 0.7f)
 										 .Roughness(0.5f)
 										 .RoughnessMap(TwillRoughness, 0.6f)
 										 .Specular(0.45f)
-										 .Place(1, 1, 45, 0.25f, 0.1f));
+										 .Place(0.75f, 0.75f, 45, 0.25f, 0.1f));
 	Keys.Satin = Assembly.AddMaterial(FLook("Satin Facing", Kind::Silk)
 										  .Color(0.006f, 0.060f, 0.066f)
 										  .Roughness(0.32f)
@@ -153,7 +154,7 @@ FGarmentMaterials AddGarmentMaterials(FAssembly& Assembly)
 											.Opacity(0.85f)
 											.OpacityMap(GauzeCover, false)
 											.Transparent()
-											.Place(2.5f, 2.5f));
+											.Place(1.6f, 1.6f));
 	Keys.Sequins = Assembly.AddMaterial(FLook("Sequin Trim", Kind::Glitter)
 											.Color(0.80f, 0.60f, 0.38f)
 											.NormalMap(GlitterMap, 0.8f)

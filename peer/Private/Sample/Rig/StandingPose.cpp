@@ -13,7 +13,7 @@ FPose StandingPose(const FSkeleton& Skeleton)
 	{ Pose.Turns[static_cast<std::size_t>(Skeleton.Find(Name))] = TurnXYZ(Degrees); };
 
 	// Hips over the right leg and tilted towards the free one; the trunk bends back, shoulders the other way.
-	Pose.PelvisShift = {0.5f, 2.0f, -0.9f};
+	Pose.PelvisShift = {0.5f, 2.0f, Measures::SoleHeight - 0.9f};
 	Turn("pelvis", {3.6f, 1.0f, -5});
 	Turn("spine_01", {-1.6f, -0.5f, 1});
 	Turn("spine_02", {-1.5f, -0.5f, 1.5f});
@@ -33,8 +33,8 @@ FPose StandingPose(const FSkeleton& Skeleton)
 	Turn("lowerarm_l", {2, -16, 0});
 	Turn("hand_l", {2, -4, -6});
 
-	ReachWithLeg(Skeleton, Pose, true, {{-2.4f, 6.6f, Measures::Ankle.Z}, AxisAngle({0, 0, 1}, 6)});
-	ReachWithLeg(Skeleton, Pose, false, {{5.6f, -9.6f, Measures::Ankle.Z}, AxisAngle({0, 0, 1}, -15)});
+	ReachWithLeg(Skeleton, Pose, true, {{-2.4f, 6.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, 6)});
+	ReachWithLeg(Skeleton, Pose, false, {{5.6f, -9.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, -15)});
 	return Pose;
 }
 

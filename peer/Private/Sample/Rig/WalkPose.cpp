@@ -119,7 +119,7 @@ FPose WalkPose(const FSkeleton& Skeleton, double Frame)
 	// 1 in the middle of the right foot's stance.
 	const float OnRight = std::cos(Angle - 2 * Pi * MidStance);
 
-	Pose.PelvisShift = {0, 2.4f * OnRight, -1.7f - 1.5f * std::cos(2 * (Angle - 2 * Pi * 0.05f))};
+	Pose.PelvisShift = {0, 2.4f * OnRight, Measures::SoleHeight - 1.7f - 1.5f * std::cos(2 * (Angle - 2 * Pi * 0.05f))};
 	Turn("pelvis", {3.8f * OnRight, 2.0f, -7.0f * Lead});
 	for (const auto& [Name, Share] : {std::pair{"spine_01", 0.15f}, std::pair{"spine_02", 0.2f},
 			 std::pair{"spine_03", 0.25f}, std::pair{"spine_04", 0.25f}, std::pair{"spine_05", 0.15f}})
@@ -146,7 +146,7 @@ FPose WalkPose(const FSkeleton& Skeleton, double Frame)
 		const float OwnPhase = bRight ? Phase : Phase + 0.5f - std::floor(Phase + 0.5f);
 		const FVec2 Ankle = AnkleAt(OwnPhase);
 		FFootGoal Goal;
-		Goal.Ankle = {Ankle.X - 1.0f, Side * 5.2f, Ankle.Y};
+		Goal.Ankle = {Ankle.X - 1.0f, Side * 5.2f, Ankle.Y + Measures::SoleHeight};
 		Goal.Turn = Multiply(AxisAngle({0, 0, 1}, Side * 5.0f), AxisAngle({0, 1, 0}, -FootPitch(OwnPhase)));
 		Goal.ToeBend = ToeBend(OwnPhase);
 		ReachWithLeg(Skeleton, Pose, bRight, Goal);
