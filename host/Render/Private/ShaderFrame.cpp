@@ -79,12 +79,13 @@ float shadowOf(vec3 position, vec3 normal, float rotation)
 	}
 	vec3 lifted = position + normal * (1.6 * uShadowTexel);
 	vec3 at = (uShadowMatrix * vec4(lifted, 1.0)).xyz * 0.5 + 0.5;
-	if (any(lessThan(at, vec3(0.0))) || any(greaterThan(at, vec3(1.0))))
+	if (any(lessThan(at, vec3(0.0))) || any(greaterThan(at.xy, vec2(1.0))))
 	{
 		return 1.0;
 	}
 	float depthPerCm = 0.5 / uShadowExtent;
-	float bias = 0.8 * uShadowTexel * depthPerCm;
+	// The floor goes on behind what the map holds; where the map holds nothing its depth is 1 and throws no shadow.
+	float limit = min(at.z - 0.8 * uShadowTexel * depthPerCm, 0.99999);
 	float search = min(6.0, 0.06 * uShadowExtent) * depthPerCm;
 	float throwers = 0.0;
 	float throwerDepth = 0.0;
@@ -95,7 +96,7 @@ float shadowOf(vec3 position, vec3 normal, float rotation)
 		float radius = sqrt((float(i) + 0.5) / float(searchCount));
 		float turn = angle + float(i) * 2.39996323;
 		float depth = textureLod(uShadowMap, at.xy + radius * search * vec2(cos(turn), sin(turn)), 0.0).r;
-		if (depth < at.z - bias)
+		if (depth < limit)
 		{
 			throwers += 1.0;
 			throwerDepth += depth;
@@ -114,7 +115,7 @@ float shadowOf(vec3 position, vec3 normal, float rotation)
 		float radius = sqrt((float(i) + 0.5) / float(count));
 		float turn = angle + float(i) * 2.39996323;
 		float depth = textureLod(uShadowMap, at.xy + radius * width * vec2(cos(turn), sin(turn)), 0.0).r;
-		lit += depth < at.z - bias ? 0.0 : 1.0;
+		lit += depth < limit ? 0.0 : 1.0;
 	}
 	return lit / float(count);
 }

@@ -65,9 +65,10 @@ void main()
 		vec3 others = uSky;
 		for (int i = 1; i < LightCount; ++i)
 		{
-			others += uLightColor[i] * max(uLightTowards[i].z, 0.0) / Pi;
+			others += 0.4 * uLightColor[i] * max(uLightTowards[i].z, 0.0) / Pi;
 		}
-		// The floor has the backdrop's own colour, darkened by what stands on it.
+		// The floor has the backdrop's own colour, darkened by what stands on it. The lamps behind are narrow: little of
+		// their light comes down to it.
 		vec3 full = key / Pi + others;
 		vec3 lit = (key * shadow / Pi + others * open) / max(full, vec3(1e-3));
 		vec3 ground = mix(uFloorColor, backdrop, 0.55) * mix(vec3(1.0), lit, 0.9);
