@@ -87,7 +87,7 @@ FTexture MakeIris()
 			const float A = X * std::sqrt(1 - Y * Y * 0.5f), B = Y * std::sqrt(1 - X * X * 0.5f);
 			const float Radius = std::sqrt(A * A + B * B), Around = std::atan2(B, A);
 			const FVec3 White = Mix({0.93f, 0.91f, 0.89f}, {0.86f, 0.68f, 0.64f}, SmoothStep(0.45f, 1.0f, Radius));
-			constexpr float IrisRadius = 0.335f, PupilRadius = 0.135f;
+			constexpr float IrisRadius = 0.355f, PupilRadius = 0.145f;
 			const float T = (Radius - PupilRadius) / (IrisRadius - PupilRadius);
 			const float Rays = Noise((Around / (2 * Pi) + 0.5f) * 64, Radius * 18, 64, 31);
 			FVec3 Iris =

@@ -45,8 +45,8 @@ FFieldPtr HairSolid()
 {
 	const auto At = [](float X, float Y, float Z) { return Measures::Skull + FVec3{X, Y, Z}; };
 	auto Hair = std::make_unique<FBlend>();
-	Hair->Join(Ellipsoid(At(-1.1f, 0, 3.4f), {9.95f, 7.95f, 9.0f}), 0);
-	Hair->Join(Ellipsoid(At(1.4f, 0, 3.2f), {7.3f, 7.1f, 7.7f}), 3.0f);
+	Hair->Join(Ellipsoid(At(-1.1f, 0, 3.4f), {10.0f, 8.15f, 9.3f}), 0);
+	Hair->Join(Ellipsoid(At(1.4f, 0, 3.2f), {7.4f, 7.2f, 8.0f}), 3.0f);
 	// Fullness above the temples, drawn in behind the ears to the nape.
 	Hair->Join(Ellipsoid(At(-5.5f, 0, -0.8f), {5.0f, 5.6f, 4.6f}), 3.0f);
 	const FBox Box = FBox{Measures::Skull, Measures::Skull}.Grown(30);

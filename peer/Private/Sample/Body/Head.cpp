@@ -23,16 +23,16 @@ void JoinSkull(FBlend& Head)
 	// Forehead, temples and the face down to the chin.
 	Head.Join(Ellipsoid(At(1.8f, 0, 2.6f), {6.7f, 6.3f, 6.8f}), 3.0f);
 	Head.Join(Loft({At(0, 0, 0)},
-				  {{-9.9f, 5.9f, 0, 1.1f, 1.6f, 1.0f, 1.0f, 2.1f}, {-8.9f, 5.0f, 0, 2.4f, 3.6f, 1.9f, 1.9f, 2.1f},
-					  {-7.3f, 3.7f, 0, 3.5f, 5.0f, 3.2f, 3.2f, 2.1f}, {-5.2f, 2.7f, 0, 4.7f, 5.0f, 4.4f, 4.4f, 2.1f},
+				  {{-9.6f, 5.9f, 0, 1.1f, 1.6f, 0.9f, 0.9f, 2.1f}, {-8.7f, 5.0f, 0, 2.4f, 3.6f, 1.6f, 1.6f, 2.1f},
+					  {-7.2f, 3.7f, 0, 3.5f, 5.0f, 2.8f, 2.8f, 2.1f}, {-5.2f, 2.7f, 0, 4.7f, 5.0f, 4.05f, 4.05f, 2.1f},
 					  {-3.0f, 2.2f, 0, 5.2f, 5.0f, 5.2f, 5.2f, 2.1f}, {-0.5f, 1.9f, 0, 5.5f, 5.0f, 5.9f, 5.9f, 2.1f},
 					  {2.0f, 1.6f, 0, 6.1f, 5.0f, 6.3f, 6.3f, 2.1f}, {4.0f, 1.2f, 0, 6.4f, 5.0f, 6.3f, 6.3f, 2.1f}}),
 		1.6f);
 	// Jaw from the ear to the chin, cheek bone, brow, chin, cheek.
-	Head.Join(RoundCone(At(-0.6f, 4.8f, -4.4f), At(5.2f, 1.2f, -8.6f), 0.9f, 0.8f), 2.2f);
+	Head.Join(RoundCone(At(-0.6f, 4.5f, -4.0f), At(5.2f, 1.0f, -8.3f), 0.8f, 0.75f), 2.2f);
 	Head.Join(RoundCone(At(1.0f, 5.8f, -0.7f), At(4.8f, 4.2f, -1.4f), 0.9f, 1.3f), 2.6f);
 	Head.Join(RoundCone(At(6.9f, 1.4f, 2.4f), At(5.4f, 4.7f, 2.6f), 0.7f, 0.7f), 2.0f);
-	Head.Join(Ellipsoid(At(6.2f, 0, -8.6f), {1.3f, 1.5f, 1.1f}), 2.2f);
+	Head.Join(Ellipsoid(At(6.25f, 0, -8.35f), {1.25f, 1.3f, 1.0f}), 2.2f);
 	Head.Join(Ellipsoid(At(5.3f, 3.0f, -3.4f), {1.8f, 1.8f, 1.8f}), 2.4f);
 	// Dome under both lips.
 	Head.Join(Ellipsoid(At(5.7f, 0, -5.5f), {2.45f, 3.1f, 2.0f}), 1.8f);

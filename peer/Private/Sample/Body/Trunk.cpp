@@ -35,7 +35,7 @@ FFieldPtr MakeTrunk()
 	// Collar bone and the hollow above it.
 	Trunk->Join(RoundCone({3.0f, 1.8f, 142.0f}, {-0.6f, 14.0f, 142.6f}, 0.75f, 0.9f), 2.0f);
 	// Neck, leaning forward, with the muscle from behind the ear to the breast bone.
-	Trunk->Join(RoundCone({-3.0f, 0, 143.0f}, {-0.2f, 0, 157.0f}, 4.6f, 4.3f), 4.0f);
+	Trunk->Join(RoundCone({-3.0f, 0, 143.0f}, {-0.2f, 0, 157.0f}, 4.4f, 4.2f), 4.0f);
 	Trunk->Join(RoundCone({-0.6f, 4.5f, 156.0f}, {2.4f, 1.3f, 143.0f}, 0.9f, 0.7f), 2.2f);
 	return Trunk;
 }

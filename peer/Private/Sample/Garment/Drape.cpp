@@ -104,10 +104,26 @@ FHangingCloth MakeCapeletCloth(const FFigure& Figure)
 	{
 		const float T = static_cast<float>(C) / (CapeletColumns - 1);
 		const float Angle = -HalfGap - T * (2 * Pi - 2 * HalfGap);
-		const float Radius = 7.6f;
-		FVec3 P{-2.6f + Radius * 0.95f * std::cos(Angle), Radius * std::sin(Angle), 146.6f - 2.6f * std::cos(Angle)};
-		P = ProjectOnto(*Bodice, P, 6);
-		Seam.push_back(P + Normalized(GradientOf(*Bodice, P)) * 0.5f);
+		constexpr float Radius = 7.8f;
+		Seam.push_back(
+			{-2.6f + Radius * 0.95f * std::cos(Angle), Radius * std::sin(Angle), 146.4f - 2.6f * std::cos(Angle)});
+	}
+	// Where neck and shoulder meet, the projection jumps: smoothing spans the notch.
+	for (int Pass = 0; Pass < 40; ++Pass)
+	{
+		const std::vector<FVec3> Old = Seam;
+		for (std::size_t C = 1; C + 1 < Seam.size(); ++C)
+		{
+			Seam[C] = Old[C] * 0.5f + (Old[C - 1] + Old[C + 1]) * 0.25f;
+		}
+		if (Pass % 8 == 0)
+		{
+			for (FVec3& P : Seam)
+			{
+				P = ProjectOnto(*Bodice, P, 4);
+				P += Normalized(GradientOf(*Bodice, P)) * 0.5f;
+			}
+		}
 	}
 	const float Length = LengthAround(Seam, false);
 	constexpr float PartOfCircle = 0.80f;

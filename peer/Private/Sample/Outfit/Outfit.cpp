@@ -31,8 +31,9 @@ FMaterials AddMaterials(FAssembly& Assembly)
 	const int LeatherColor = Assembly.AddTexture(FImage::Make(GrainWidth, GrainHeight,
 		[&](float U, float V)
 		{
-			const float Shade = 0.82f + 0.18f * Grain.At(static_cast<int>(U * GrainWidth), static_cast<int>(V * GrainHeight)).X +
-								0.12f * (Clouds(U, V, 6, 3, 72) - 0.5f);
+			const float Shade =
+				0.82f + 0.18f * Grain.At(static_cast<int>(U * GrainWidth), static_cast<int>(V * GrainHeight)).X +
+				0.12f * (Clouds(U, V, 6, 3, 72) - 0.5f);
 			return FVec4{0.60f * Shade, 0.375f * Shade, 0.215f * Shade, 1};
 		}).ToTexture8());
 	// Brushed: streaks along U, at the full depth of the scanner.
@@ -96,7 +97,8 @@ FTriangleMesh MakeBeltBuckle(const IField& Bodice)
 		Frame.push_back(Center + FVec3{-0.02f * Y * Y, Y, Z});
 	}
 	FTriangleMesh Buckle = Tube(Frame, std::vector<float>(Frame.size(), 0.28f), 10, true);
-	const std::vector<FVec3> Pin{Center + FVec3{0.05f, 2.6f, 0}, Center + FVec3{0.3f, 0, 0}, Center + FVec3{0.1f, -2.9f, 0}};
+	const std::vector<FVec3> Pin{
+		Center + FVec3{0.05f, 2.6f, 0}, Center + FVec3{0.3f, 0, 0}, Center + FVec3{0.1f, -2.9f, 0}};
 	const std::vector<FVec3> PinPath = Smoothed(Pin, 6);
 	Buckle.Append(Tube(PinPath, std::vector<float>(PinPath.size(), 0.17f), 8));
 	return Buckle;
@@ -133,8 +135,8 @@ FProjectObject MakeOutfit(const FFigure& Figure)
 			Posed(std::move(Shoes.Straps), Materials.Leather)});
 	Assembly.AddSurface("Shoes/Soles", {Posed(std::move(Shoes.Soles), Materials.Sole)});
 	Assembly.AddSurface("Shoes/Buckles", {Posed(std::move(Shoes.Buckles), Materials.Brass)});
-	Assembly.AddSurface("Belt", {Posed(MakeBelt(*Bodice), Materials.Leather),
-									Posed(MakeBeltBuckle(*Bodice), Materials.Brass)});
+	Assembly.AddSurface(
+		"Belt", {Posed(MakeBelt(*Bodice), Materials.Leather), Posed(MakeBeltBuckle(*Bodice), Materials.Brass)});
 	FTriangleMesh Hooks = Ball(EarLobe(), {0.24f, 0.24f, 0.24f}, 12, 8);
 	const std::vector<FVec3> Wire{EarLobe(), EarLobe() - FVec3{0, 0, 0.5f}, EarLobe() - FVec3{0, 0, 1.0f}};
 	Hooks.Append(Tube(Wire, {0.07f, 0.07f, 0.07f}, 6));

@@ -23,7 +23,8 @@ FFieldPtr ShoeSolid(float Leather)
 	Shoe->Join(RoundCone({10.5f, 8.3f, 1.8f}, {18.8f, 8.3f, 1.05f}, 1.9f, 0.75f), 2.6f);
 	Shoe->Join(Ellipsoid({-3.4f, 7.55f, 3.6f}, {3.0f, 2.8f, 3.6f}), 2.0f);
 	Shoe->Join(MakeLeg(), 0);
-	return Raised(std::move(Shoe), [Leather](const FVec3&) { return Leather; }, Leather);
+	return Raised(
+		std::move(Shoe), [Leather](const FVec3&) { return Leather; }, Leather);
 }
 
 /** Above 0 below the shoe's opening: high at the heel, low at the sides, closed over the toes. */

@@ -29,7 +29,9 @@ FTriangleMesh MakeBox(const FVec3& Center, const FVec3& HalfSize, float Degrees)
 	{
 		for (const float Sign : {-1.0f, 1.0f})
 		{
-			const auto Part = [&](int A, float Value) { return A == 0 ? FVec3{Value, 0, 0} : (A == 1 ? FVec3{0, Value, 0} : FVec3{0, 0, Value}); };
+			const auto Part = [&](int A, float Value) {
+				return A == 0 ? FVec3{Value, 0, 0} : (A == 1 ? FVec3{0, Value, 0} : FVec3{0, 0, Value});
+			};
 			const FVec3 Normal = Part(Axis, Sign);
 			const FVec3 Right = Part((Axis + 1) % 3, Sign);
 			// Right, down and out as a picture on this side needs them.
@@ -38,7 +40,8 @@ FTriangleMesh MakeBox(const FVec3& Center, const FVec3& HalfSize, float Degrees)
 			for (const FVec2& Corner : {FVec2{-1, -1}, FVec2{-1, 1}, FVec2{1, 1}, FVec2{1, -1}})
 			{
 				const FVec3 P = (Normal + Right * Corner.X + Down * Corner.Y) * HalfSize;
-				Box.Add(Center + Rotate(Turn, P), Rotate(Turn, Normal), {0.5f + 0.5f * Corner.X, 0.5f + 0.5f * Corner.Y});
+				Box.Add(
+					Center + Rotate(Turn, P), Rotate(Turn, Normal), {0.5f + 0.5f * Corner.X, 0.5f + 0.5f * Corner.Y});
 			}
 			Box.AddQuad(First, First + 1, First + 2, First + 3);
 		}
@@ -56,7 +59,8 @@ FTriangleMesh MakePouf()
 			const float Around = -2 * Pi * U, Down = Pi * (0.02f + 0.96f * V);
 			const float Bulge = 1 + 0.018f * std::cos(12 * Around);
 			const float Round = std::pow(std::sin(Down), 0.55f) * 29.0f * Bulge;
-			const float Height = 18.5f + 18.5f * std::copysign(std::pow(std::fabs(std::cos(Down)), 0.75f), std::cos(Down));
+			const float Height =
+				18.5f + 18.5f * std::copysign(std::pow(std::fabs(std::cos(Down)), 0.75f), std::cos(Down));
 			return PoufPlace + FVec3{Round * std::cos(Around), Round * std::sin(Around), Height};
 		});
 }
@@ -69,12 +73,14 @@ FTriangleMesh MakeSheepskin()
 		[](float U, float V)
 		{
 			const float Around = -2 * Pi * U;
-			const float Edge = 21 + 2.2f * std::sin(3 * Around + 0.5f) + 1.3f * std::sin(7 * Around) + 4 * std::cos(Around);
+			const float Edge =
+				21 + 2.2f * std::sin(3 * Around + 0.5f) + 1.3f * std::sin(7 * Around) + 4 * std::cos(Around);
 			const float Way = Edge * std::max(V, 0.001f);
 			const float Over = std::max(Way - 17.0f, 0.0f);
 			const float Radius = Way - 0.45f * Over;
 			const float Rough = 0.9f * Noise3({U * 40, V * 12, 3}, 91) * SmoothStep(1.0f, 0.85f, V);
-			return PoufPlace + FVec3{Radius * std::cos(Around) + 1, Radius * std::sin(Around), 37.6f + Rough - 0.085f * Over * Over};
+			return PoufPlace + FVec3{Radius * std::cos(Around) + 1, Radius * std::sin(Around),
+								   37.6f + Rough - 0.085f * Over * Over};
 		});
 }
 
@@ -126,7 +132,8 @@ FTriangleMesh MakeLeaf(const FVec3& Root, float Degrees, float Rise, float Long,
 			const float Half = Wide * std::pow(std::max(std::sin(Pi * std::pow(0.03f + 0.97f * V, 0.85f)), 0.0f), 0.8f);
 			const float Side = 2 * U - 1;
 			const FVec3 Up = FVec3{0, 0, std::cos(Bend)} - Out * std::sin(Bend);
-			return Spine + Across * (Half * Side) + Up * (0.22f * Half * Side * Side + 0.25f * std::sin(V * 16 + 5 * Side) * V * std::fabs(Side));
+			return Spine + Across * (Half * Side) +
+				   Up * (0.22f * Half * Side * Side + 0.25f * std::sin(V * 16 + 5 * Side) * V * std::fabs(Side));
 		});
 }
 
@@ -138,8 +145,9 @@ void MakePlant(FTriangleMesh& Leaves, FTriangleMesh& Stems)
 		const float Way = 120 * static_cast<float>(S) + 35;
 		const FVec3 Lean = Rotate(AxisAngle({0, 0, 1}, Way), {1, 0, 0});
 		const float Tall = 78.0f - 17.0f * static_cast<float>(S);
-		const std::vector<FVec3> Path = Smoothed({Ground + Lean * 3, Ground + Lean * 5 + FVec3{0, 0, Tall * 0.5f},
-													 Ground + Lean * 11 + FVec3{0, 0, Tall}}, 8);
+		const std::vector<FVec3> Path = Smoothed(
+			{Ground + Lean * 3, Ground + Lean * 5 + FVec3{0, 0, Tall * 0.5f}, Ground + Lean * 11 + FVec3{0, 0, Tall}},
+			8);
 		std::vector<float> Radii;
 		for (std::size_t I = 0; I < Path.size(); ++I)
 		{
@@ -153,25 +161,31 @@ void MakePlant(FTriangleMesh& Leaves, FTriangleMesh& Stems)
 			const FVec3 Root = Path[static_cast<std::size_t>(T * static_cast<float>(Path.size() - 1))];
 			const float Turn = 137.5f * static_cast<float>(L) + Way + 20 * Hash(L, S, 92);
 			const float Size = Lerp(1.0f, 0.68f, T) * (0.9f + 0.2f * Hash(L, S, 93));
-			Leaves.Append(MakeLeaf(Root, Turn, Lerp(18.0f, 68.0f, T * T), 30 * Size, 8.6f * Size, Lerp(75.0f, 40.0f, T)));
+			Leaves.Append(
+				MakeLeaf(Root, Turn, Lerp(18.0f, 68.0f, T * T), 30 * Size, 8.6f * Size, Lerp(75.0f, 40.0f, T)));
 		}
 	}
 }
 
 FTriangleMesh MakePot()
 {
-	return Lathe(PlantPlace, {{14.5f, 43}, {17.2f, 43}, {17.6f, 43}, {17.6f, 42.4f}, {17.2f, 34}, {16.2f, 22}, {14.2f, 8},
-								 {12.8f, 1}, {12.0f, 0}, {0, 0}}, 72);
+	return Lathe(PlantPlace,
+		{{14.5f, 43}, {17.2f, 43}, {17.6f, 43}, {17.6f, 42.4f}, {17.2f, 34}, {16.2f, 22}, {14.2f, 8}, {12.8f, 1},
+			{12.0f, 0}, {0, 0}},
+		72);
 }
 
 void MakeTable(FTriangleMesh& Top, FTriangleMesh& Frame)
 {
-	Top = Lathe(TablePlace, {{0, 54}, {18.6f, 54}, {19.2f, 53.8f}, {19.5f, 53.2f}, {19.2f, 52.5f}, {18.6f, 52.2f}, {0, 52.2f}}, 72);
+	Top = Lathe(TablePlace,
+		{{0, 54}, {18.6f, 54}, {19.2f, 53.8f}, {19.5f, 53.2f}, {19.2f, 52.5f}, {18.6f, 52.2f}, {0, 52.2f}}, 72);
 	for (int L = 0; L < 3; ++L)
 	{
 		const FVec3 Out = Rotate(AxisAngle({0, 0, 1}, 120 * static_cast<float>(L) + 20), {1, 0, 0});
-		const std::vector<FVec3> Leg = Smoothed({TablePlace + Out * 13 + FVec3{0, 0, 52.2f}, TablePlace + Out * 5 + FVec3{0, 0, 28},
-													TablePlace + Out * 15 + FVec3{0, 0, 0.6f}}, 10);
+		const std::vector<FVec3> Leg =
+			Smoothed({TablePlace + Out * 13 + FVec3{0, 0, 52.2f}, TablePlace + Out * 5 + FVec3{0, 0, 28},
+						 TablePlace + Out * 15 + FVec3{0, 0, 0.6f}},
+				10);
 		Frame.Append(Tube(Leg, std::vector<float>(Leg.size(), 0.75f), 10));
 	}
 	std::vector<FVec3> Ring;
@@ -186,8 +200,10 @@ void MakeTable(FTriangleMesh& Top, FTriangleMesh& Frame)
 FTriangleMesh MakeVase()
 {
 	const FVec3 Foot = TablePlace + FVec3{-3, 3, 54};
-	return Lathe(Foot, {{3.3f, 21}, {3.0f, 18.5f}, {2.5f, 16}, {2.9f, 13.5f}, {4.9f, 10}, {5.9f, 6.5f}, {5.3f, 2.8f},
-						   {3.6f, 0.5f}, {3.2f, 0}, {0, 0}}, 48);
+	return Lathe(Foot,
+		{{3.3f, 21}, {3.0f, 18.5f}, {2.5f, 16}, {2.9f, 13.5f}, {4.9f, 10}, {5.9f, 6.5f}, {5.3f, 2.8f}, {3.6f, 0.5f},
+			{3.2f, 0}, {0, 0}},
+		48);
 }
 
 void MakeGrasses(FTriangleMesh& Stalks, FTriangleMesh& Ears)
@@ -197,15 +213,20 @@ void MakeGrasses(FTriangleMesh& Stalks, FTriangleMesh& Ears)
 	{
 		const FVec3 Out = Rotate(AxisAngle({0, 0, 1}, 51.4f * static_cast<float>(G) + 15), {1, 0, 0});
 		const float Wide = 6 + 7 * Hash(G, 0, 94), Tall = 38 + 12 * Hash(G, 1, 94);
-		const std::vector<FVec3> Path = Smoothed({Foot + Out * -1.5f, Foot + Out * 1.2f + FVec3{0, 0, 16},
-													 Foot + Out * (0.5f * Wide) + FVec3{0, 0, Tall * 0.75f}, Foot + Out * Wide + FVec3{0, 0, Tall}}, 8);
+		const std::vector<FVec3> Path =
+			Smoothed({Foot + Out * -1.5f, Foot + Out * 1.2f + FVec3{0, 0, 16},
+						 Foot + Out * (0.5f * Wide) + FVec3{0, 0, Tall * 0.75f}, Foot + Out * Wide + FVec3{0, 0, Tall}},
+				8);
 		Stalks.Append(Tube(Path, std::vector<float>(Path.size(), 0.12f), 5));
 		const FVec3 Tip = Path.back(), Way = Normalized(Tip - Path[Path.size() - 4]);
-		const std::vector<FVec3> Ear = Smoothed({Tip, Tip + Way * 3.5f + FVec3{0, 0, -0.2f}, Tip + Way * 7 + FVec3{0, 0, -1.4f}}, 6);
+		const std::vector<FVec3> Ear =
+			Smoothed({Tip, Tip + Way * 3.5f + FVec3{0, 0, -0.2f}, Tip + Way * 7 + FVec3{0, 0, -1.4f}}, 6);
 		std::vector<float> Radii;
 		for (std::size_t I = 0; I < Ear.size(); ++I)
 		{
-			Radii.push_back(0.12f + 0.95f * std::sin(0.999f * Pi * std::pow(static_cast<float>(I) / static_cast<float>(Ear.size() - 1), 0.7f)));
+			Radii.push_back(
+				0.12f + 0.95f * std::sin(0.999f * Pi *
+										 std::pow(static_cast<float>(I) / static_cast<float>(Ear.size() - 1), 0.7f)));
 		}
 		Ears.Append(Tube(Ear, Radii, 8));
 	}
@@ -214,8 +235,10 @@ void MakeGrasses(FTriangleMesh& Stalks, FTriangleMesh& Ears)
 void MakeLamp(FTriangleMesh& Metal, FTriangleMesh& Globe, FTriangleMesh& Base)
 {
 	Base = Lathe(LampPlace, {{0, 5}, {12.5f, 5}, {13.4f, 4.7f}, {13.8f, 4}, {13.8f, 0.6f}, {13.2f, 0}, {0, 0}}, 64);
-	const std::vector<FVec3> Pole = Smoothed({LampPlace + FVec3{0, 0, 5}, LampPlace + FVec3{0, 0, 90}, LampPlace + FVec3{1, -1, 148},
-												 LampPlace + FVec3{8, -6, 172}, LampPlace + FVec3{20, -14, 174}, LampPlace + FVec3{24, -17, 168}}, 8);
+	const std::vector<FVec3> Pole =
+		Smoothed({LampPlace + FVec3{0, 0, 5}, LampPlace + FVec3{0, 0, 90}, LampPlace + FVec3{1, -1, 148},
+					 LampPlace + FVec3{8, -6, 172}, LampPlace + FVec3{20, -14, 174}, LampPlace + FVec3{24, -17, 168}},
+			8);
 	Metal.Append(Tube(Pole, std::vector<float>(Pole.size(), 0.85f), 12));
 	const FVec3 Hanging = Pole.back() - FVec3{0, 0, 14.5f};
 	Metal.Append(Lathe(Hanging, {{0, 15}, {2.2f, 14.8f}, {3.6f, 13.2f}, {4.2f, 11}, {4.2f, 10.4f}}, 32));
@@ -233,25 +256,28 @@ FProjectObject MakeProp()
 	Assembly.AddSurface("Sheepskin", {{MakeSheepskin(), Materials.Sheepskin, {}}});
 	FTriangleMesh Piping;
 	FTriangleMesh Cushion = MakeCushion(&Piping);
-	Assembly.AddSurface("Cushion", {{std::move(Cushion), Materials.Velvet, {}}, {std::move(Piping), Materials.Piping, {}}});
+	Assembly.AddSurface(
+		"Cushion", {{std::move(Cushion), Materials.Velvet, {}}, {std::move(Piping), Materials.Piping, {}}});
 	FTriangleMesh LampMetal, Globe, LampBase;
 	MakeLamp(LampMetal, Globe, LampBase);
 	Assembly.AddSurface("Lamp", {{std::move(LampMetal), Materials.Brass, {}}, {std::move(Globe), Materials.Globe, {}},
 									{std::move(LampBase), Materials.Marble, {}}});
 	FTriangleMesh TableTop, TableFrame;
 	MakeTable(TableTop, TableFrame);
-	Assembly.AddSurface("Table", {{std::move(TableTop), Materials.Marble, {}}, {std::move(TableFrame), Materials.Brass, {}}});
+	Assembly.AddSurface(
+		"Table", {{std::move(TableTop), Materials.Marble, {}}, {std::move(TableFrame), Materials.Brass, {}}});
 	const FVec3 OnTable = TablePlace + FVec3{5, -7, 54};
-	Assembly.AddSurface("Book", {{MakeBox(OnTable + FVec3{0, 0, 1.4f}, {8.2f, 5.6f, 1.4f}, 24), Materials.Cover, {}},
-									{MakeBox(OnTable + FVec3{0, 0, 3.6f}, {7.0f, 4.9f, 0.8f}, 8), Materials.Paper, {}}});
+	Assembly.AddSurface(
+		"Book", {{MakeBox(OnTable + FVec3{0, 0, 1.4f}, {8.2f, 5.6f, 1.4f}, 24), Materials.Cover, {}},
+					{MakeBox(OnTable + FVec3{0, 0, 3.6f}, {7.0f, 4.9f, 0.8f}, 8), Materials.Paper, {}}});
 	FTriangleMesh Stalks, Ears;
 	MakeGrasses(Stalks, Ears);
 	Assembly.AddSurface("Grasses", {{std::move(Stalks), Materials.Stem, {}}, {std::move(Ears), Materials.Paper, {}}});
 	FTriangleMesh Leaves, Stems;
 	MakePlant(Leaves, Stems);
-	Assembly.AddSurface("Plant", {{std::move(Leaves), Materials.Leaf, {}}, {std::move(Stems), Materials.Stem, {}},
-									 {MakePot(), Materials.Clay, {}},
-									 {Lathe(PlantPlace, {{0, 41.5f}, {17, 41.5f}}, 32), Materials.Soil, {}}});
+	Assembly.AddSurface("Plant",
+		{{std::move(Leaves), Materials.Leaf, {}}, {std::move(Stems), Materials.Stem, {}},
+			{MakePot(), Materials.Clay, {}}, {Lathe(PlantPlace, {{0, 41.5f}, {17, 41.5f}}, 32), Materials.Soil, {}}});
 	Assembly.AddSurface("Vase", {{MakeVase(), Materials.Glass, {}}}, Translucent);
 
 	FProjectObject Prop;

@@ -19,7 +19,8 @@ FTexture MarbleColor()
 			const float Vein = std::fabs(std::sin(2 * Pi * (U + V + 1.3f * Warp)));
 			const float Dark = 0.35f * SmoothStep(0.10f, 0.0f, Vein) + 0.10f * Clouds(U, V, 8, 4, 82);
 			return FVec4{0.93f - Dark, 0.915f - Dark, 0.89f - 0.95f * Dark, 1};
-		}).ToTexture8();
+		})
+		.ToTexture8();
 }
 
 FTexture LeafColor()
@@ -34,7 +35,8 @@ FTexture LeafColor()
 			const FVec3 Color = Lerp(FVec3{0.085f, 0.255f, 0.115f}, FVec3{0.42f, 0.56f, 0.30f}, 0.8f * Light);
 			const float Shade = 0.85f + 0.3f * Clouds(U, V, 8, 3, 83);
 			return FVec4{Color.X * Shade, Color.Y * Shade, Color.Z * Shade, 1};
-		}).ToTexture8();
+		})
+		.ToTexture8();
 }
 
 FImage FurHeights()
@@ -80,15 +82,23 @@ FPropMaterials AddPropMaterials(FAssembly& Assembly)
 										 .Roughness(0.9f)
 										 .Specular(0.2f)
 										 .Place(5, 2.4f));
-	Keys.Velvet = Assembly.AddMaterial(FLook("Rust Velvet", Kind::Velvet).Color(0.34f, 0.075f, 0.028f).Roughness(0.7f).Specular(0.3f));
+	Keys.Velvet = Assembly.AddMaterial(
+		FLook("Rust Velvet", Kind::Velvet).Color(0.34f, 0.075f, 0.028f).Roughness(0.7f).Specular(0.3f));
 	Keys.Piping = Assembly.AddMaterial(FLook("Cushion Piping", Kind::Silk).Color(0.55f, 0.28f, 0.12f).Roughness(0.4f));
-	Keys.Sheepskin = Assembly.AddMaterial(
-		FLook("Sheepskin", Kind::Fur).ColorMap(FurColor).NormalMap(FurNormal, 1).Roughness(0.95f).Specular(0.15f).Place(1.2f, 1.2f, 30));
-	Keys.Brass = Assembly.AddMaterial(FLook("Brass", Kind::Metal).Color(0.83f, 0.61f, 0.32f).Roughness(0.22f).Metallic(1));
+	Keys.Sheepskin = Assembly.AddMaterial(FLook("Sheepskin", Kind::Fur)
+											  .ColorMap(FurColor)
+											  .NormalMap(FurNormal, 1)
+											  .Roughness(0.95f)
+											  .Specular(0.15f)
+											  .Place(1.2f, 1.2f, 30));
+	Keys.Brass =
+		Assembly.AddMaterial(FLook("Brass", Kind::Metal).Color(0.83f, 0.61f, 0.32f).Roughness(0.22f).Metallic(1));
 	Keys.Globe = Assembly.AddMaterial(FLook("Lamp Globe", Kind::Light).Color(1.0f, 0.86f, 0.66f).Roughness(0.4f));
 	Keys.Marble = Assembly.AddMaterial(FLook("Marble", Kind::Shiny).ColorMap(Marble).Roughness(0.18f).Specular(0.5f));
-	Keys.Clay = Assembly.AddMaterial(FLook("Glazed Clay", Kind::Matte).Color(0.62f, 0.56f, 0.48f).Roughness(0.75f).Specular(0.3f));
-	Keys.Soil = Assembly.AddMaterial(FLook("Soil", Kind::Matte).Color(0.035f, 0.022f, 0.015f).Roughness(1).Specular(0.1f));
+	Keys.Clay = Assembly.AddMaterial(
+		FLook("Glazed Clay", Kind::Matte).Color(0.62f, 0.56f, 0.48f).Roughness(0.75f).Specular(0.3f));
+	Keys.Soil =
+		Assembly.AddMaterial(FLook("Soil", Kind::Matte).Color(0.035f, 0.022f, 0.015f).Roughness(1).Specular(0.1f));
 	Keys.Leaf = Assembly.AddMaterial(FLook("Leaf", Kind::Shiny).ColorMap(Leaf).Roughness(0.35f).Specular(0.45f));
 	Keys.Stem = Assembly.AddMaterial(FLook("Stem", Kind::Matte).Color(0.07f, 0.11f, 0.04f).Roughness(0.7f));
 	Keys.Glass = Assembly.AddMaterial(FLook("Vase Glass", Kind::GlassGem)

@@ -33,8 +33,10 @@ FPose StandingPose(const FSkeleton& Skeleton)
 	Turn("lowerarm_l", {2, -16, 0});
 	Turn("hand_l", {2, -4, -6});
 
-	ReachWithLeg(Skeleton, Pose, true, {{-2.4f, 6.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, 6)});
-	ReachWithLeg(Skeleton, Pose, false, {{5.6f, -9.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, -15)});
+	ReachWithLeg(
+		Skeleton, Pose, true, {{-2.4f, 6.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, 6)});
+	ReachWithLeg(
+		Skeleton, Pose, false, {{5.6f, -9.6f, Measures::Ankle.Z + Measures::SoleHeight}, AxisAngle({0, 0, 1}, -15)});
 	return Pose;
 }
 
