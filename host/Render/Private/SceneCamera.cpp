@@ -11,7 +11,13 @@ namespace Host
 namespace
 {
 
-constexpr float RadiansPerDegree = 3.14159265358979f / 180.0f;
+constexpr double RadiansPerDegree = 3.14159265358979323846 / 180.0;
+
+/** Half the width of the view at distance 1. */
+float HalfTangent(const FCameraSnapshot& Camera)
+{
+	return float(std::tan(double(Camera.HorizontalFov) * 0.5 * RadiansPerDegree));
+}
 
 bool IsFinite(const FFloat3& P)
 {
@@ -26,8 +32,8 @@ FFloat3 Placed(const FPlacement& Placement, const FFloat3& P)
 FLightSnapshot Lamp(const FCameraSnapshot& Camera, float Azimuth, float Elevation, const FFloat3& Color, float Size)
 {
 	// Azimuth turns from the camera's own direction to its right; the lamps stand level with the scene's horizon.
-	const float Yaw = std::atan2(-Camera.Forward.Y, -Camera.Forward.X) - Azimuth * RadiansPerDegree;
-	const float Pitch = Elevation * RadiansPerDegree;
+	const float Yaw = std::atan2(-Camera.Forward.Y, -Camera.Forward.X) - Azimuth * float(RadiansPerDegree);
+	const float Pitch = Elevation * float(RadiansPerDegree);
 	FLightSnapshot Light;
 	Light.Towards = {std::cos(Pitch) * std::cos(Yaw), std::cos(Pitch) * std::sin(Yaw), std::sin(Pitch)};
 	Light.Color = Color;
@@ -83,9 +89,12 @@ FSceneBounds BoundsOf(const std::vector<FObjectSnapshot>& Objects)
 
 FCameraSnapshot ViewFrom(const FFloat3& Location, float Pitch, float Yaw, float Roll, float HorizontalFov)
 {
-	const float SP = std::sin(Pitch * RadiansPerDegree), CP = std::cos(Pitch * RadiansPerDegree);
-	const float SY = std::sin(Yaw * RadiansPerDegree), CY = std::cos(Yaw * RadiansPerDegree);
-	const float SR = std::sin(Roll * RadiansPerDegree), CR = std::cos(Roll * RadiansPerDegree);
+	// In 64 bits, so that a half turn leaves nothing of the axis that it leaves.
+	const auto Sine = [](float Degrees) { return float(std::sin(double(Degrees) * RadiansPerDegree)); };
+	const auto Cosine = [](float Degrees) { return float(std::cos(double(Degrees) * RadiansPerDegree)); };
+	const float SP = Sine(Pitch), CP = Cosine(Pitch);
+	const float SY = Sine(Yaw), CY = Cosine(Yaw);
+	const float SR = Sine(Roll), CR = Cosine(Roll);
 	FCameraSnapshot Camera;
 	Camera.Location = Location;
 	Camera.Forward = {CP * CY, CP * SY, SP};
@@ -107,7 +116,7 @@ FCameraSnapshot FrameBounds(
 	float Distance = DistanceToNothing;
 	if (!Bounds.IsEmpty())
 	{
-		const float TanX = std::tan(Camera.HorizontalFov * 0.5f * RadiansPerDegree);
+		const float TanX = HalfTangent(Camera);
 		const float TanY = TanX / Aspect;
 		// Every corner must lie inside the four side planes: its distance sideways over the tangent, less its own
 		// depth.
@@ -157,7 +166,7 @@ void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera)
 
 FClipMatrix ViewProjection(const FCameraSnapshot& Camera, float Aspect, float Near, float Far)
 {
-	const float ScaleX = 1.0f / std::tan(Camera.HorizontalFov * 0.5f * RadiansPerDegree);
+	const float ScaleX = 1.0f / HalfTangent(Camera);
 	const float ScaleY = ScaleX * Aspect;
 	const float DepthScale = (Far + Near) / (Far - Near);
 	const float DepthOffset = -2.0f * Far * Near / (Far - Near);
