@@ -10,6 +10,13 @@
 namespace
 {
 constexpr float DegreesPerPixel = 0.25f;
+
+/** A property of a profile was changed by code. */
+void NotifyChanged(const TCHAR* PropertyName)
+{
+	FPropertyChangedEvent Event(FPreviewSceneProfile::StaticStruct()->FindPropertyByName(FName(PropertyName)));
+	UAssetViewerSettings::Get()->PostEditChangeProperty(Event);
+}
 } // namespace
 
 UAssetViewerSettings::UAssetViewerSettings(const FObjectInitializer& ObjectInitializer)
@@ -27,18 +34,13 @@ UAssetViewerSettings* UAssetViewerSettings::Get()
 
 void UAssetViewerSettings::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
 {
-	NotifyChanged(PropertyChangedEvent.GetPropertyName());
-	Super::PostEditChangeProperty(PropertyChangedEvent);
-}
-
-void UAssetViewerSettings::NotifyChanged(const FName& PropertyName)
-{
 	if (Profiles.Num() != KnownProfiles)
 	{
 		KnownProfiles = Profiles.Num();
 		ProfileAddRemovedEvent.Broadcast();
 	}
-	SettingsChangedEvent.Broadcast(PropertyName);
+	SettingsChangedEvent.Broadcast(PropertyChangedEvent.GetPropertyName());
+	Super::PostEditChangeProperty(PropertyChangedEvent);
 }
 
 FAdvancedPreviewScene::FAdvancedPreviewScene(ConstructionValues CVS, float InFloorOffset)
@@ -87,19 +89,19 @@ bool FAdvancedPreviewScene::HandleInputKey(const FInputKeyEventArgs& EventArgs)
 	if (EventArgs.Key == EKeys::I)
 	{
 		Profile.bShowEnvironment = !Profile.bShowEnvironment;
-		Settings->NotifyChanged(FName(TEXT("bShowEnvironment")));
+		NotifyChanged(TEXT("bShowEnvironment"));
 		return true;
 	}
 	if (EventArgs.Key == EKeys::O)
 	{
 		Profile.bShowFloor = !Profile.bShowFloor;
-		Settings->NotifyChanged(FName(TEXT("bShowFloor")));
+		NotifyChanged(TEXT("bShowFloor"));
 		return true;
 	}
 	if (EventArgs.Key == EKeys::P)
 	{
 		Profile.bPostProcessingEnabled = !Profile.bPostProcessingEnabled;
-		Settings->NotifyChanged(FName(TEXT("bPostProcessingEnabled")));
+		NotifyChanged(TEXT("bPostProcessingEnabled"));
 		return true;
 	}
 	return false;

@@ -62,10 +62,8 @@ public:
 	FOnAssetViewerSettingsChangedEvent& OnAssetViewerSettingsChanged() { return SettingsChangedEvent; }
 	FOnAssetViewerProfileAddRemovedEvent& OnAssetViewerProfileAddRemoved() { return ProfileAddRemovedEvent; }
 
+	/** Must follow a change; tells the subscribers. */
 	void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
-
-	/** Changes have been made in code; tells the subscribers. */
-	void NotifyChanged(const FName& PropertyName);
 
 private:
 	FOnAssetViewerSettingsChangedEvent SettingsChangedEvent;

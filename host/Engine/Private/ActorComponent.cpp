@@ -3,6 +3,7 @@
 
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
+#include "Host/Scene.h"
 #include "Logging/LogMacros.h"
 #include "RegisteredComponents.h"
 
@@ -69,8 +70,8 @@ void UActorComponent::RegisterComponentWithWorld(UWorld* InWorld)
 	OnRegister();
 	if (ShouldCreateRenderState() && InWorld->Scene)
 	{
-		AddToScene();
-		bInScene = true;
+		CreateRenderState_Concurrent(nullptr);
+		bRenderStateCreated = true;
 	}
 	InWorld->RegisteredComponents->Add(this);
 }
@@ -82,10 +83,10 @@ void UActorComponent::UnregisterComponent()
 		return;
 	}
 	WorldPrivate->RegisteredComponents->Remove(this);
-	if (bInScene)
+	if (bRenderStateCreated)
 	{
-		RemoveFromScene();
-		bInScene = false;
+		DestroyRenderState_Concurrent();
+		bRenderStateCreated = false;
 	}
 	OnUnregister();
 	bRegistered = false;
@@ -121,11 +122,17 @@ void UActorComponent::TickComponent(float, ELevelTick, FActorComponentTickFuncti
 
 void UActorComponent::MarkRenderStateDirty()
 {
-	if (bInScene)
+	if (bRenderStateCreated)
 	{
-		RefreshInScene();
+		Host::FScene::Of(WorldPrivate)->Refresh(this);
 	}
 }
+
+void UActorComponent::CreateRenderState_Concurrent(FRegisterComponentContext*) {}
+
+void UActorComponent::DestroyRenderState_Concurrent() {}
+
+void UActorComponent::SendRenderTransform_Concurrent() {}
 
 void UActorComponent::OnRegister() {}
 

@@ -14,3 +14,6 @@ FAttachmentTransformRules SnapWithoutScale()
 const FAttachmentTransformRules FAttachmentTransformRules::KeepRelativeTransform(EAttachmentRule::KeepRelative, false);
 const FAttachmentTransformRules FAttachmentTransformRules::KeepWorldTransform(EAttachmentRule::KeepWorld, false);
 const FAttachmentTransformRules FAttachmentTransformRules::SnapToTargetNotIncludingScale = SnapWithoutScale();
+
+const FDetachmentTransformRules FDetachmentTransformRules::KeepRelativeTransform(EDetachmentRule::KeepRelative, true);
+const FDetachmentTransformRules FDetachmentTransformRules::KeepWorldTransform(EDetachmentRule::KeepWorld, true);

@@ -24,24 +24,18 @@ void ULightComponentBase::SetLightColor(FLinearColor NewLightColor, bool bSRGB)
 	MarkRenderStateDirty();
 }
 
-void ULightComponentBase::AddToScene()
+void ULightComponentBase::CreateRenderState_Concurrent(FRegisterComponentContext*)
 {
 	Host::FScene::Of(GetWorld())->AddLight(this);
 }
 
-void ULightComponentBase::RemoveFromScene()
+void ULightComponentBase::DestroyRenderState_Concurrent()
 {
 	Host::FScene::Of(GetWorld())->RemoveLight(this);
 }
 
-void ULightComponentBase::RefreshInScene()
+void ULightComponentBase::SendRenderTransform_Concurrent()
 {
-	Host::FScene::Of(GetWorld())->RefreshLights();
-}
-
-void ULightComponentBase::OnTransformUpdated()
-{
-	Super::OnTransformUpdated();
 	MarkRenderStateDirty();
 }
 

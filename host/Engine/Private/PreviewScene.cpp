@@ -115,8 +115,8 @@ void FPreviewScene::AddComponent(UActorComponent* Component, const FTransform& L
 		SceneComponent->SetRelativeTransform(LocalToWorld);
 		if (bAttachToRoot)
 		{
-			SceneComponent->AttachToComponent(PreviewWorld->GetWorldSettings()->GetRootComponent(),
-				FAttachmentTransformRules::KeepRelativeTransform);
+			SceneComponent->AttachToComponent(
+				PreviewWorld->GetWorldSettings()->GetRootComponent(), FAttachmentTransformRules::KeepRelativeTransform);
 		}
 	}
 	if (!Component->IsRegistered())
@@ -133,7 +133,7 @@ void FPreviewScene::RemoveComponent(UActorComponent* Component)
 		USceneComponent* const Root = PreviewWorld->GetWorldSettings()->GetRootComponent();
 		if (SceneComponent->GetAttachParent() == Root)
 		{
-			SceneComponent->DetachFromParent();
+			SceneComponent->DetachFromComponent(FDetachmentTransformRules::KeepRelativeTransform);
 		}
 	}
 	Components.RemoveSingle(Component);

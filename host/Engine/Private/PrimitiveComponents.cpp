@@ -3,7 +3,7 @@
 #include "Components/PrimitiveComponent.h"
 
 #include "Engine/World.h"
-#include "Host/Scene.h"
+#include "SceneInterface.h"
 #include "Materials/MaterialInterface.h"
 
 UMaterialInterface* UPrimitiveComponent::GetMaterial(int32) const
@@ -15,29 +15,19 @@ void UPrimitiveComponent::SetMaterial(int32, UMaterialInterface*) {}
 
 void UPrimitiveComponent::GetUsedMaterials(TArray<UMaterialInterface*>&, bool) const {}
 
-void UPrimitiveComponent::AddToScene()
+void UPrimitiveComponent::CreateRenderState_Concurrent(FRegisterComponentContext*)
 {
 	GetWorld()->Scene->AddPrimitive(this);
 }
 
-void UPrimitiveComponent::RemoveFromScene()
+void UPrimitiveComponent::DestroyRenderState_Concurrent()
 {
 	GetWorld()->Scene->RemovePrimitive(this);
 }
 
-void UPrimitiveComponent::RefreshInScene()
+void UPrimitiveComponent::SendRenderTransform_Concurrent()
 {
-	Host::FScene::Of(GetWorld())->RefreshPrimitive(this);
-}
-
-void UPrimitiveComponent::OnTransformUpdated()
-{
-	Super::OnTransformUpdated();
-	const UWorld* const World = IsRegistered() ? GetWorld() : nullptr;
-	if (World && World->Scene)
-	{
-		World->Scene->UpdatePrimitiveTransform(this);
-	}
+	GetWorld()->Scene->UpdatePrimitiveTransform(this);
 }
 
 UMaterialInterface* UMeshComponent::GetMaterial(int32 ElementIndex) const

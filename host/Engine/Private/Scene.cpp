@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Host/Scene.h"
 
+#include "Components/PrimitiveComponent.h"
 #include "Engine/World.h"
 
 namespace Host
@@ -39,11 +40,12 @@ ERHIFeatureLevel::Type FScene::GetFeatureLevel() const
 	return World->GetFeatureLevel();
 }
 
-void FScene::RefreshPrimitive(UPrimitiveComponent* Primitive)
+void FScene::Refresh(UActorComponent* Component)
 {
-	if (FPrimitive* const Entry = Find(Primitive))
+	++Revision;
+	if (FPrimitive* const Entry = Find(Component))
 	{
-		Entry->Revision = ++Revision;
+		Entry->Revision = Revision;
 	}
 }
 
@@ -68,8 +70,8 @@ void FScene::RefreshAll()
 	}
 }
 
-FScene::FPrimitive* FScene::Find(UPrimitiveComponent* Primitive)
+FScene::FPrimitive* FScene::Find(const UActorComponent* Component)
 {
-	return Primitives.FindByPredicate([&](const FPrimitive& Entry) { return Entry.Component == Primitive; });
+	return Primitives.FindByPredicate([&](const FPrimitive& Entry) { return Entry.Component == Component; });
 }
 } // namespace Host

@@ -100,7 +100,7 @@ bool USceneComponent::AttachToComponent(USceneComponent* InParent, const FAttach
 		return false;
 	}
 	const FTransform FormerWorld = ComponentToWorld;
-	DetachFromParent();
+	DetachFromComponent(FDetachmentTransformRules::KeepRelativeTransform);
 	AttachParent = InParent;
 	InParent->AttachChildren.Add(this);
 
@@ -118,7 +118,7 @@ bool USceneComponent::AttachToComponent(USceneComponent* InParent, const FAttach
 	return true;
 }
 
-void USceneComponent::DetachFromParent()
+void USceneComponent::DetachFromComponent(const FDetachmentTransformRules& DetachmentRules)
 {
 	if (!AttachParent)
 	{
@@ -127,7 +127,19 @@ void USceneComponent::DetachFromParent()
 	const FTransform World = ComponentToWorld;
 	AttachParent->AttachChildren.Remove(this);
 	AttachParent = nullptr;
-	SetRelativeTransform(World);
+	if (DetachmentRules.LocationRule == EDetachmentRule::KeepWorld)
+	{
+		RelativeLocation = World.GetLocation();
+	}
+	if (DetachmentRules.RotationRule == EDetachmentRule::KeepWorld)
+	{
+		RelativeRotation = World.GetRotation().Rotator();
+	}
+	if (DetachmentRules.ScaleRule == EDetachmentRule::KeepWorld)
+	{
+		RelativeScale3D = World.GetScale3D();
+	}
+	UpdateComponentToWorld();
 }
 
 void USceneComponent::SetVisibility(bool bNewVisibility)
@@ -164,13 +176,13 @@ void USceneComponent::DestroyComponent(bool bPromoteChildren)
 	const TArray<TObjectPtr<USceneComponent>> Children = AttachChildren;
 	for (const TObjectPtr<USceneComponent>& Child : Children)
 	{
-		Child->DetachFromParent();
+		Child->DetachFromComponent(FDetachmentTransformRules::KeepWorldTransform);
 		if (bPromoteChildren && Parent)
 		{
 			Child->AttachToComponent(Parent, FAttachmentTransformRules::KeepWorldTransform);
 		}
 	}
-	DetachFromParent();
+	DetachFromComponent(FDetachmentTransformRules::KeepWorldTransform);
 	AActor* const OwningActor = GetOwner();
 	if (OwningActor && OwningActor->GetRootComponent() == this)
 	{
@@ -190,11 +202,12 @@ void USceneComponent::UpdateComponentToWorld()
 	const FTransform Relative = GetRelativeTransform();
 	ComponentToWorld = AttachParent ? Relative * AttachParent->ComponentToWorld : Relative;
 	UpdateBounds();
-	OnTransformUpdated();
+	if (IsRenderStateCreated())
+	{
+		SendRenderTransform_Concurrent();
+	}
 	for (const TObjectPtr<USceneComponent>& Child : AttachChildren)
 	{
 		Child->UpdateComponentToWorld();
 	}
 }
-
-void USceneComponent::OnTransformUpdated() {}

@@ -3,7 +3,6 @@
 
 #include "Components/ActorComponent.h"
 #include "Components/SceneComponent.h"
-#include "Engine/Engine.h"
 #include "Engine/Level.h"
 #include "GameFramework/Actor.h"
 #include "GameFramework/WorldSettings.h"
@@ -14,8 +13,6 @@
 #include "RegisteredComponents.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogWorld, Log, All);
-
-UEngine* GEngine = nullptr;
 
 UWorld::UWorld(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)

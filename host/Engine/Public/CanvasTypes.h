@@ -14,7 +14,7 @@ public:
 	}
 
 	/** Pixels. */
-	FIntPoint GetViewRectSize() const { return Size; }
+	FIntPoint GetParentCanvasSize() const { return Size; }
 
 private:
 	FIntPoint Size;

@@ -7,11 +7,20 @@
 
 class FSceneInterface;
 
-class FSceneView
+/** What the views that make up one picture share. */
+class FSceneViewFamily
 {
 public:
 	/** Not owned; null when there is nothing to show. */
-	const FSceneInterface* Scene = nullptr;
+	FSceneInterface* Scene = nullptr;
+	FEngineShowFlags EngineShowFlags = FEngineShowFlags(ESFIM_Editor);
+};
+
+class FSceneView
+{
+public:
+	/** Not owned; outlives the view. */
+	const FSceneViewFamily* Family = nullptr;
 	FVector ViewLocation = FVector(0.0, 0.0, 0.0);
 	FRotator ViewRotation = FRotator(0.0, 0.0, 0.0);
 	/** Horizontal, degrees. */
@@ -21,7 +30,6 @@ public:
 	bool bPerspective = true;
 	/** Pixels. */
 	FIntPoint ViewSize = FIntPoint(0, 0);
-	FEngineShowFlags ShowFlags = FEngineShowFlags(ESFIM_Editor);
 
 	bool IsPerspectiveProjection() const { return bPerspective; }
 };

@@ -8,6 +8,11 @@
 
 class HHitProxy;
 
+namespace Host
+{
+struct FViewportAccess;
+}
+
 /** A picture on the screen, and the keys that go to it. */
 class FViewport
 {
@@ -41,13 +46,12 @@ public:
 	virtual void InvalidateDisplay() { bDisplayDirty = true; }
 	virtual void InvalidateHitProxy() { bHitProxiesDirty = true; }
 
-	/** True until the next Draw. */
-	bool IsDisplayDirty() const { return bDisplayDirty; }
-
 	/** Asks the client to fill the viewport; the picture is up to date then. */
 	void Draw(bool bShouldPresent = true);
 
 protected:
+	friend struct Host::FViewportAccess;
+
 	FViewportClient* ViewportClient;
 	FIntPoint Size = FIntPoint(0, 0);
 	bool bDisplayDirty = true;

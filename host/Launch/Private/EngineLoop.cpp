@@ -21,11 +21,6 @@ DEFINE_LOG_CATEGORY_STATIC(LogInit, Log, All);
 
 namespace Host
 {
-namespace
-{
-constexpr double SecondsBetweenCollections = 60.0;
-} // namespace
-
 FEngineLoop::~FEngineLoop()
 {
 	Exit();
@@ -55,7 +50,6 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
 	GEngine = Editor;
 	GEditor = Editor;
 	Editor->InitEditor();
-	LastCollection = AppTime();
 
 	for (const FName Module : Options.Modules)
 	{
@@ -103,12 +97,7 @@ void FEngineLoop::Tick(double DeltaSeconds)
 	AdvanceTime(DeltaSeconds);
 	GEditor->Tick(static_cast<float>(DeltaSeconds), false);
 	FSlateNotificationManager::Get().Tick();
-	if (GEngine->IsGarbageCollectionForced() || AppTime() - LastCollection >= SecondsBetweenCollections)
-	{
-		GEngine->ClearForcedGarbageCollection();
-		LastCollection = AppTime();
-		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
-	}
+	GEngine->ConditionalCollectGarbage();
 }
 
 void FEngineLoop::Exit()

@@ -55,16 +55,17 @@ public:
 
 	void ForceRefresh() override { Invalidate(EInvalidateWidgetReason::Layout); }
 
-	TArray<TWeakObjectPtr<UObject>> GetSelectedObjects() const override
+	const TArray<TWeakObjectPtr<UObject>>& GetSelectedObjects() const override
 	{
-		return Objects.FilterByPredicate([](const TWeakObjectPtr<UObject>& Object) { return Object.IsValid(); });
+		Objects.RemoveAll([](const TWeakObjectPtr<UObject>& Object) { return !Object.IsValid(); });
+		return Objects;
 	}
 
 	bool IsLocked() const override { return bLocked; }
 
 private:
 	FDetailsViewArgs DetailsViewArgs;
-	TArray<TWeakObjectPtr<UObject>> Objects;
+	mutable TArray<TWeakObjectPtr<UObject>> Objects; // the dead leave when it is asked for
 	bool bLocked = false;
 };
 } // namespace

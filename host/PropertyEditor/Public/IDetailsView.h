@@ -27,6 +27,6 @@ public:
 	virtual void ForceRefresh() = 0;
 
 	/** Those that are alive. */
-	virtual TArray<TWeakObjectPtr<UObject>> GetSelectedObjects() const = 0;
+	virtual const TArray<TWeakObjectPtr<UObject>>& GetSelectedObjects() const = 0;
 	virtual bool IsLocked() const = 0;
 };

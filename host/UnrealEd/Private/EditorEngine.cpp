@@ -6,7 +6,7 @@
 #include "EditorViewportClient.h"
 #include "Engine/World.h"
 #include "Host/EditorState.h"
-#include "Slate/SceneViewport.h"
+#include "Host/ViewportState.h"
 #include "TickableEditorObject.h"
 #include "TimerManager.h"
 #include "UObject/Class.h"
@@ -56,7 +56,7 @@ void UEditorEngine::Tick(float DeltaSeconds, bool)
 	}
 	for (FEditorViewportClient* const Client : Clients)
 	{
-		if (AllViewportClients.Contains(Client) && Client->Viewport && Client->Viewport->IsDisplayDirty())
+		if (AllViewportClients.Contains(Client) && Client->Viewport && Host::IsDisplayDirty(*Client->Viewport))
 		{
 			Client->Viewport->Draw();
 		}
@@ -210,12 +210,12 @@ UObject* UEditorEngine::GetEditorSubsystemBase(UClass* SubsystemClass)
 	return Subsystem;
 }
 
-void UEditorEngine::AddViewportClient(FEditorViewportClient* ViewportClient)
+void UEditorEngine::AddViewportClients(FEditorViewportClient* ViewportClient)
 {
 	AllViewportClients.AddUnique(ViewportClient);
 }
 
-void UEditorEngine::RemoveViewportClient(FEditorViewportClient* ViewportClient)
+void UEditorEngine::RemoveViewportClients(FEditorViewportClient* ViewportClient)
 {
 	AllViewportClients.Remove(ViewportClient);
 }

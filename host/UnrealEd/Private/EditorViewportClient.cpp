@@ -8,6 +8,7 @@
 #include "PreviewScene.h"
 #include "SEditorViewport.h"
 #include "SceneView.h"
+#include "Templates/UniquePtr.h"
 
 namespace
 {
@@ -47,7 +48,7 @@ IViewPainter* SetViewPainter(IViewPainter* NewPainter)
 
 void FEditorCommonDrawHelper::Draw(const FSceneView* View, FPrimitiveDrawInterface* PDI) const
 {
-	if (!bDrawGrid || !View->ShowFlags.Grid || NumCells <= 0)
+	if (!bDrawGrid || !View->Family->EngineShowFlags.Grid || NumCells <= 0)
 	{
 		return;
 	}
@@ -74,7 +75,7 @@ FEditorViewportClient::FEditorViewportClient(FEditorModeTools* InModeTools, FPre
 {
 	if (GEditor)
 	{
-		GEditor->AddViewportClient(this);
+		GEditor->AddViewportClients(this);
 	}
 }
 
@@ -82,7 +83,7 @@ FEditorViewportClient::~FEditorViewportClient()
 {
 	if (GEditor)
 	{
-		GEditor->RemoveViewportClient(this);
+		GEditor->RemoveViewportClients(this);
 	}
 }
 
@@ -98,7 +99,9 @@ void FEditorViewportClient::Tick(float)
 
 void FEditorViewportClient::Draw(FViewport* InViewport, FCanvas* Canvas)
 {
-	FSceneView View = CalcSceneView();
+	FSceneViewFamily Family;
+	const TUniquePtr<FSceneView> OwnedView(CalcSceneView(&Family));
+	FSceneView& View = *OwnedView;
 	FLineCollector Collector(&View);
 	Draw(&View, &Collector);
 	DrawCanvas(*InViewport, View, *Canvas);
@@ -115,18 +118,20 @@ void FEditorViewportClient::Draw(const FSceneView* View, FPrimitiveDrawInterface
 
 void FEditorViewportClient::DrawCanvas(FViewport&, FSceneView&, FCanvas&) {}
 
-FSceneView FEditorViewportClient::CalcSceneView() const
+FSceneView* FEditorViewportClient::CalcSceneView(FSceneViewFamily* ViewFamily, const int32)
 {
-	FSceneView View;
-	View.Scene = PreviewScene ? PreviewScene->GetScene() : nullptr;
+	ViewFamily->Scene = PreviewScene ? PreviewScene->GetScene() : nullptr;
+	ViewFamily->EngineShowFlags = EngineShowFlags;
+	FSceneView* const Result = new FSceneView();
+	FSceneView& View = *Result;
+	View.Family = ViewFamily;
 	View.ViewLocation = GetViewLocation();
 	View.ViewRotation = GetViewRotation();
 	View.FOV = ViewFOV;
 	View.NearClipPlane = GetNearClipPlane();
 	View.bPerspective = IsPerspective();
 	View.ViewSize = Viewport ? Viewport->GetSizeXY() : FIntPoint(0, 0);
-	View.ShowFlags = EngineShowFlags;
-	return View;
+	return Result;
 }
 
 bool FEditorViewportClient::InputKey(const FInputKeyEventArgs& EventArgs)

@@ -81,11 +81,6 @@ void SEditorViewport::Construct(const FArguments& InArgs)
 	PopulateViewportOverlays(ViewportOverlay.ToSharedRef());
 }
 
-TSharedRef<const SOverlay> SEditorViewport::GetViewportOverlay() const
-{
-	return ViewportOverlay.ToSharedRef();
-}
-
 void SEditorViewport::Invalidate()
 {
 	Client->Invalidate();
@@ -170,7 +165,7 @@ void FEditorViewportTabContent::Initialize(
 	Args.bRealtime = true;
 	Args.ConfigKey = FName(*(LayoutString + TEXT(".Viewport0")));
 	const TSharedRef<SAssetEditorViewport> Viewport = CreateSlateViewport(FName(TEXT("Default")), Args).ToSharedRef();
-	Viewport->SetParentTabContent(AsWeak());
+	Viewport->ParentTabContent = AsWeak();
 	Viewports.Empty();
 	Viewports.Add(Args.ConfigKey, MakeShared<FViewportPane>(Viewport));
 	bHasLayout = true;

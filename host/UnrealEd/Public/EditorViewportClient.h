@@ -11,6 +11,7 @@
 class FEditorModeTools;
 class FPreviewScene;
 class FSceneView;
+class FSceneViewFamily;
 class SEditorViewport;
 class SWidget;
 
@@ -71,8 +72,8 @@ public:
 	virtual void Draw(const FSceneView* View, FPrimitiveDrawInterface* PDI);
 	/** What stands flat in front of the view. */
 	virtual void DrawCanvas(FViewport& InViewport, FSceneView& View, FCanvas& Canvas);
-	/** The view at this moment. */
-	FSceneView CalcSceneView() const;
+	/** The view at this moment, owned by the caller; fills the family, which must outlive it. */
+	virtual FSceneView* CalcSceneView(FSceneViewFamily* ViewFamily, const int32 StereoViewIndex = INDEX_NONE);
 
 	virtual bool InputKey(const FInputKeyEventArgs& EventArgs) override;
 	virtual bool InputAxis(FViewport* InViewport, FInputDeviceId DeviceID, FKey Key, float Delta, float DeltaTime,

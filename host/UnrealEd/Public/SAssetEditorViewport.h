@@ -18,15 +18,12 @@ public:
 
 	void Construct(const FArguments& InArgs, const FAssetEditorViewportConstructionArgs& InViewportConstructionArgs);
 
-	/** The tab content that holds this viewport; empty for none. */
-	void SetParentTabContent(const TWeakPtr<FViewportTabContent>& InParentTabContent)
-	{
-		ParentTabContent = InParentTabContent;
-	}
 	/** True for the arrangement of panes that this viewport stands in. */
 	bool IsViewportConfigurationSet(FName ConfigurationName) const;
 
 protected:
+	friend class FEditorViewportTabContent;
+
 	virtual void BindCommands() override;
 	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
 

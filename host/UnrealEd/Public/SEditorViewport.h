@@ -30,7 +30,6 @@ public:
 	TSharedPtr<FEditorViewportClient> GetViewportClient() const { return Client; }
 	const TSharedPtr<FUICommandList> GetCommandList() const { return CommandList; }
 	TSharedPtr<FSceneViewport> GetSceneViewport() { return SceneViewport; }
-	TSharedRef<const SOverlay> GetViewportOverlay() const;
 	virtual void Invalidate();
 
 	bool SupportsKeyboardFocus() const override { return true; }

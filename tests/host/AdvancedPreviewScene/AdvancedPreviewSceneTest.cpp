@@ -7,6 +7,7 @@
 #include "EngineFixture.h"
 #include "Modules/ModuleManager.h"
 #include "Slate/SceneViewport.h"
+#include "UObject/UnrealType.h"
 
 namespace
 {
@@ -24,6 +25,12 @@ protected:
 		Scene.reset();
 		UAssetViewerSettings::Get()->Profiles = FormerProfiles;
 		FEngineFixture::TearDown();
+	}
+
+	static void Changed(const TCHAR* PropertyName)
+	{
+		FPropertyChangedEvent Event(FPreviewSceneProfile::StaticStruct()->FindPropertyByName(FName(PropertyName)));
+		UAssetViewerSettings::Get()->PostEditChangeProperty(Event);
 	}
 
 	FPreviewSceneProfile& Profile() { return UAssetViewerSettings::Get()->Profiles[0]; }
@@ -50,11 +57,11 @@ TEST_F(AdvancedPreviewScene, FollowsItsProfile)
 		UAssetViewerSettings::Get()->OnAssetViewerSettingsChanged().AddLambda(Changes.Functor());
 	Profile().DirectionalLightIntensity = 5.0f;
 	Profile().SkyLightIntensity = 2.0f;
-	UAssetViewerSettings::Get()->NotifyChanged(NAME_None);
+	UAssetViewerSettings::Get()->PostEditChange();
 	EXPECT_EQ(Scene->DirectionalLight->Intensity, 5.0f);
 	EXPECT_EQ(Scene->SkyLight->Intensity, 2.0f);
 	Profile().bUseSkyLighting = false;
-	UAssetViewerSettings::Get()->NotifyChanged(TEXT("bUseSkyLighting"));
+	Changed(TEXT("bUseSkyLighting"));
 	EXPECT_EQ(Scene->SkyLight->Intensity, 0.0f);
 	ASSERT_EQ(Changes.Num(), 2);
 	EXPECT_EQ(std::get<0>(Changes.Last()), FName(TEXT("bUseSkyLighting")));
@@ -67,12 +74,12 @@ TEST_F(AdvancedPreviewScene, TellsOfProfilesThatComeAndGo)
 	const FDelegateHandle Handle =
 		UAssetViewerSettings::Get()->OnAssetViewerProfileAddRemoved().AddLambda([&] { ++Calls; });
 	UAssetViewerSettings::Get()->Profiles.Add(FPreviewSceneProfile());
-	UAssetViewerSettings::Get()->NotifyChanged(TEXT("Profiles"));
-	UAssetViewerSettings::Get()->NotifyChanged(TEXT("Profiles"));
+	UAssetViewerSettings::Get()->PostEditChange();
+	UAssetViewerSettings::Get()->PostEditChange();
 	EXPECT_EQ(Calls, 1);
 	UAssetViewerSettings::Get()->OnAssetViewerProfileAddRemoved().Remove(Handle);
 	UAssetViewerSettings::Get()->Profiles.Pop();
-	UAssetViewerSettings::Get()->NotifyChanged(TEXT("Profiles"));
+	UAssetViewerSettings::Get()->PostEditChange();
 }
 
 TEST_F(AdvancedPreviewScene, KeysSwitchTheProfileWhenPressed)

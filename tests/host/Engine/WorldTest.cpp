@@ -189,7 +189,7 @@ TEST_F(World, AttachedComponentsFollowTheirParent)
 
 	Parent->SetRelativeScale3D(FVector(2.0, 2.0, 2.0));
 	EXPECT_EQ(Child->GetComponentLocation(), FVector(20.0, 5.0, 0.0));
-	Child->DetachFromParent();
+	Child->DetachFromComponent(FDetachmentTransformRules::KeepWorldTransform);
 	EXPECT_EQ(Child->GetComponentLocation(), FVector(20.0, 5.0, 0.0));
 	EXPECT_EQ(Child->GetAttachParent(), nullptr);
 }

@@ -82,7 +82,7 @@ class FPainter : public Host::IViewPainter
 public:
 	void Paint(FViewport&, const FSceneView& View, const TArray<Host::FViewLine>& Lines) override
 	{
-		Scene = View.Scene;
+		Scene = View.Family->Scene;
 		LineCount = Lines.Num();
 	}
 

@@ -5,6 +5,8 @@
 #include "CoreMinimal.h"
 #include "SceneInterface.h"
 
+class UActorComponent;
+
 namespace Host
 {
 /**
@@ -38,12 +40,10 @@ public:
 	UWorld* GetWorld() const override { return World; }
 	ERHIFeatureLevel::Type GetFeatureLevel() const override;
 
-	/** The primitive looks different; nothing happens for one that does not stand here. */
-	void RefreshPrimitive(UPrimitiveComponent* Primitive);
+	/** A primitive or a light looks different. */
+	void Refresh(UActorComponent* Component);
 	void AddLight(ULightComponentBase* Light);
 	void RemoveLight(ULightComponentBase* Light);
-	/** A light looks different. */
-	void RefreshLights() { ++Revision; }
 	/** Everything looks different. */
 	void RefreshAll();
 
@@ -53,7 +53,7 @@ public:
 	uint64 GetRevision() const { return Revision; }
 
 private:
-	FPrimitive* Find(UPrimitiveComponent* Primitive);
+	FPrimitive* Find(const UActorComponent* Component);
 
 	UWorld* World; // owns this
 	TArray<FPrimitive> Primitives;

@@ -9,6 +9,7 @@
 #include "ActorComponent.generated.h"
 
 class AActor;
+class FRegisterComponentContext;
 class UWorld;
 
 /**
@@ -55,6 +56,8 @@ public:
 
 	/** What the scene shows of this component is out of date. */
 	void MarkRenderStateDirty();
+	/** Whether it stands in the world's scene. */
+	bool IsRenderStateCreated() const { return bRenderStateCreated; }
 
 	virtual void PostInitProperties() override;
 	virtual void BeginDestroy() override;
@@ -68,10 +71,10 @@ protected:
 
 	/** Whether there is anything to show in the scene. */
 	virtual bool ShouldCreateRenderState() const { return false; }
-	/** Puts it into the world's scene, takes it out, or tells the scene that what it shows has changed. */
-	virtual void AddToScene() {}
-	virtual void RemoveFromScene() {}
-	virtual void RefreshInScene() {}
+	/** Puts it into the world's scene, takes it out, or tells the scene that it has moved. */
+	virtual void CreateRenderState_Concurrent(FRegisterComponentContext* Context);
+	virtual void DestroyRenderState_Concurrent();
+	virtual void SendRenderTransform_Concurrent();
 
 private:
 	friend class AActor;
@@ -79,6 +82,6 @@ private:
 	UWorld* WorldPrivate = nullptr; // while registered; a world outlives its registrations
 	AActor* OwnerPrivate = nullptr; // the outer, which outlives the component
 	bool bRegistered = false;
-	bool bInScene = false;
+	bool bRenderStateCreated = false;
 	bool bIsBeingDestroyed = false;
 };

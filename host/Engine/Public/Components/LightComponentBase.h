@@ -27,8 +27,7 @@ public:
 
 protected:
 	bool ShouldCreateRenderState() const override { return bAffectsWorld; }
-	void AddToScene() override;
-	void RemoveFromScene() override;
-	void RefreshInScene() override;
-	void OnTransformUpdated() override;
+	void CreateRenderState_Concurrent(FRegisterComponentContext* Context) override;
+	void DestroyRenderState_Concurrent() override;
+	void SendRenderTransform_Concurrent() override;
 };

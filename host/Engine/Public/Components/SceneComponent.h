@@ -52,8 +52,8 @@ public:
 	 * @return false, and nothing changed, when the parent is null, this component or one of its descendants
 	 */
 	bool AttachToComponent(USceneComponent* InParent, const FAttachmentTransformRules& AttachmentRules);
-	/** Keeps its place in the world; nothing happens without a parent. */
-	void DetachFromParent();
+	/** Leaves its parent; nothing happens without one. */
+	void DetachFromComponent(const FDetachmentTransformRules& DetachmentRules);
 
 	bool IsVisible() const { return bVisible; }
 	void SetVisibility(bool bNewVisibility);
@@ -69,8 +69,6 @@ public:
 
 protected:
 	void OnRegister() override;
-	/** The place in the world has changed, and the bounds with it. */
-	virtual void OnTransformUpdated();
 
 private:
 	void UpdateComponentToWorld();

@@ -29,17 +29,16 @@ class UEngine : public UObject
 	GENERATED_BODY()
 
 public:
+	UEngine(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
 	/** Asks for a garbage collection at the end of the frame. */
-	void ForceGarbageCollection(bool bFullPurge = false)
-	{
-		(void)bFullPurge;
-		bGarbageCollectionForced = true;
-	}
-	bool IsGarbageCollectionForced() const { return bGarbageCollectionForced; }
-	void ClearForcedGarbageCollection() { bGarbageCollectionForced = false; }
+	void ForceGarbageCollection(bool bFullPurge = false);
+	/** Called at the end of each frame: collects when asked, and when a minute has passed since the last time. */
+	void ConditionalCollectGarbage();
 
 private:
-	bool bGarbageCollectionForced = false;
+	bool bCollectionForced = false;
+	double LastCollection; // on the application's clock
 };
 
 /** Null while no engine runs. */

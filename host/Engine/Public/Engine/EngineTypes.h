@@ -134,6 +134,35 @@ struct FAttachmentTransformRules
 	ENGINE_API static const FAttachmentTransformRules SnapToTargetNotIncludingScale;
 };
 
+/** How a component takes its place when it leaves its parent. */
+enum class EDetachmentRule : uint8
+{
+	/** Keeps its relative transform. */
+	KeepRelative = 0,
+	/** Keeps its place in the world. */
+	KeepWorld = 1
+};
+
+/** Detachment rules for location, rotation and scale. */
+struct FDetachmentTransformRules
+{
+	EDetachmentRule LocationRule;
+	EDetachmentRule RotationRule;
+	EDetachmentRule ScaleRule;
+	bool bCallModify;
+
+	FDetachmentTransformRules(EDetachmentRule InRule, bool bInCallModify)
+		: LocationRule(InRule)
+		, RotationRule(InRule)
+		, ScaleRule(InRule)
+		, bCallModify(bInCallModify)
+	{
+	}
+
+	ENGINE_API static const FDetachmentTransformRules KeepRelativeTransform;
+	ENGINE_API static const FDetachmentTransformRules KeepWorldTransform;
+};
+
 /** How render data is made from one level of detail of a skeletal mesh. */
 USTRUCT()
 struct FSkeletalMeshBuildSettings

@@ -40,16 +40,17 @@ public:
 	bool IsRunning() const { return bRunning; }
 
 	/**
-	 * One frame: the clock advances, timers, editor objects and viewports tick, viewports that are out of date are drawn,
-	 * notifications end, and garbage is collected when it was asked for or a minute has passed since the last time.
+	 * One frame: the clock advances, timers, editor objects and viewports tick, viewports that are out of date are
+	 * drawn, notifications end, and garbage is collected when it was asked for or a minute has passed since the last
+	 * time.
 	 *
 	 * @param DeltaSeconds  at least 0
 	 */
 	void Tick(double DeltaSeconds);
 
 	/**
-	 * Shuts the modules down, ends the editor and the mounts and collects everything. Open editors of the plug-in must be
-	 * closed before. Nothing happens when no engine runs.
+	 * Shuts the modules down, ends the editor and the mounts and collects everything. Open editors of the plug-in must
+	 * be closed before. Nothing happens when no engine runs.
 	 */
 	void Exit();
 
@@ -57,7 +58,6 @@ private:
 	bool MountContentFolders(const FEngineLoopOptions& Options, FString& OutError);
 
 	TArray<FString> MountedRoots;
-	double LastCollection = 0.0; // on the application's clock
 	bool bRunning = false;
 };
 } // namespace Host

@@ -241,7 +241,7 @@ public:
 		: Widget(MakeShareable(new WidgetType()))
 		, RequiredArgs(std::move(InRequiredArgs))
 	{
-		Widget->SetTypeName(InTypeName);
+		SetTypeOf(*Widget, InTypeName);
 	}
 
 	template <typename ExposeAsType>
@@ -261,6 +261,13 @@ public:
 	}
 
 private:
+	/** SWidget is incomplete here, so its field is reached through a type that depends on the arguments. */
+	template <typename AnyWidgetType>
+	static void SetTypeOf(AnyWidgetType& InWidget, const ANSICHAR* InTypeName)
+	{
+		InWidget.SWidget::Type = FName(InTypeName);
+	}
+
 	TSharedRef<WidgetType> Widget;
 	RequiredArgsType RequiredArgs;
 };

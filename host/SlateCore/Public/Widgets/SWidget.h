@@ -70,14 +70,14 @@ public:
 
 	/** Takes over the arguments that every widget has. Called by SNew before Construct. */
 	void SWidgetConstruct(const FSlateBaseNamedArgs& Args);
-	/** Called by SNew. */
-	void SetTypeName(const ANSICHAR* InType) { Type = FName(InType); }
 
 protected:
 	SWidget() = default;
 
 private:
 	friend class FSlotBase;
+	template <typename WidgetType, typename RequiredArgsType>
+	friend class TSlateDecl;
 
 	FName Type;
 	FName Tag;

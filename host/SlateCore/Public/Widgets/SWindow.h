@@ -51,8 +51,6 @@ public:
 	void SetOnWindowClosed(const FOnWindowClosed& InDelegate) { OnWindowClosed = InDelegate; }
 	/** Closes the window; nothing happens when it is closed already. */
 	void RequestDestroyWindow();
-	/** False after RequestDestroyWindow. */
-	bool IsOpen() const { return bOpen; }
 
 private:
 	TAttribute<FText> Title;

@@ -97,8 +97,8 @@ public:
 		return static_cast<TSubsystemClass*>(GetEditorSubsystemBase(TSubsystemClass::StaticClass()));
 	}
 
-	void AddViewportClient(FEditorViewportClient* ViewportClient);
-	void RemoveViewportClient(FEditorViewportClient* ViewportClient);
+	void AddViewportClients(FEditorViewportClient* ViewportClient);
+	void RemoveViewportClients(FEditorViewportClient* ViewportClient);
 	const TArray<FEditorViewportClient*>& GetAllViewportClients() const { return AllViewportClients; }
 
 private:

@@ -22,8 +22,6 @@ public:
 	void GetCommandInfosFromContext(
 		const FName InBindingContext, TArray<TSharedPtr<FUICommandInfo>>& OutCommandInfos) const;
 
-	/** Registers a context by its name, in place of one of the same name; its commands stay. */
-	void AddContext(const TSharedRef<FBindingContext>& InContext);
 	/** Registers a command under its context. A second one of the same name is a failed check. */
 	void CreateInputCommand(
 		const TSharedRef<FBindingContext>& InBindingContext, TSharedRef<FUICommandInfo> InCommandInfo);
@@ -37,7 +35,13 @@ private:
 		TArray<TSharedPtr<FUICommandInfo>> Commands;
 	};
 
+	template <typename CommandContextType>
+	friend class TCommands;
+
 	FInputBindingManager() = default;
+
+	/** Registers a context by its name, in place of one of the same name; its commands stay. */
+	void AddContext(const TSharedRef<FBindingContext>& InContext);
 
 	TMap<FName, FContextEntry> Contexts;
 };
