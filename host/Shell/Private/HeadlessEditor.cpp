@@ -111,7 +111,12 @@ public:
 		Dialogs.TakeMessages();
 		bAnswered = false;
 		bLost = false;
-		Editor->GetToolkitCommands()->ExecuteAction(FZEFTandemEditorCommands::Get().Update.ToSharedRef());
+		const FZEFTandemEditorCommands& Commands = FZEFTandemEditorCommands::Get();
+		if (Options.bUnifiedMaterial != Editor->IsUnifiedMaterial())
+		{
+			Editor->GetToolkitCommands()->ExecuteAction(Commands.SetUnifiedMaterial.ToSharedRef());
+		}
+		Editor->GetToolkitCommands()->ExecuteAction(Commands.Update.ToSharedRef());
 		// Requests are answered in their order, so this answer says that all objects have arrived.
 		Client->SendData(ZefTandemCore::TandemMessage::RequestAvailability);
 		const bool bInTime = TickUntil([this] { return bAnswered || bLost; });
