@@ -461,3 +461,19 @@ TEST_F(MaterialSweep, SheenBrightensTheRimMoreThanTheMiddle)
 	};
 	EXPECT_GT(Gain(0.13f, 0.16f), Gain(0.46f, 0.54f) + 15.0f);
 }
+
+TEST_F(MaterialSweep, WhatShinesByItselfGlowsIntoItsSurroundings)
+{
+	FMaterialSnapshot Material = Grey();
+	Material.BaseColor = {1.0f, 0.8f, 0.5f, 1.0f};
+	const auto Beside = [&]
+	{
+		const FImage Image = DrawBall(Material);
+		return Brightness(MeanColor(Image, 0.08f, 0.2f, 0.16f, 0.3f));
+	};
+	const float Dull = Beside();
+	Material.Look.Emission = 1.5f;
+	const float Shining = Beside();
+
+	EXPECT_GT(Shining, Dull + 1.0f);
+}

@@ -42,6 +42,7 @@ void SetFrameUniforms(vtkShaderProgram& Program, const FFrameState& Frame)
 	vtkTextureObject* Occlusion = bColor && Frame.Occlusion ? Frame.Occlusion : Frame.White;
 	Program.SetUniformf("uShadowTexel", bColor && Frame.ShadowMap ? Frame.ShadowTexel : 0.0f);
 	Program.SetUniformf("uHasOcclusion", bColor && Frame.Occlusion ? 1.0f : 0.0f);
+	Program.SetUniformf("uGlow", Frame.bGlow ? 1.0f : 0.0f);
 	Program.SetUniform2f("uPixelSize", PixelSize);
 	Program.SetUniformi("uShadowMap", Shadows->GetTextureUnit());
 	Program.SetUniformi("uOcclusion", Occlusion->GetTextureUnit());

@@ -31,6 +31,8 @@ struct FFrameState
 	vtkTextureObject* ShadowMap = nullptr;
 	vtkTextureObject* Occlusion = nullptr; // null without ambient occlusion
 	vtkTextureObject* White = nullptr;	   // stands in for each texture that is not there
+	/** The picture is covered all over, so its alpha is free to say what shines; see AddGlow. */
+	bool bGlow = false;
 	float PixelWidth = 1.0f, PixelHeight = 1.0f;
 };
 

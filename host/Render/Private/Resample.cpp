@@ -4,7 +4,8 @@
 namespace Host
 {
 
-FImage PictureFromDevice(const std::vector<uint8_t>& Pixels, int32_t Width, int32_t Height, int32_t Scale)
+FImage PictureFromDevice(
+	const std::vector<uint8_t>& Pixels, int32_t Width, int32_t Height, int32_t Scale, bool bCovered)
 {
 	FImage Image;
 	Image.Width = Width;
@@ -19,19 +20,22 @@ FImage PictureFromDevice(const std::vector<uint8_t>& Pixels, int32_t Width, int3
 		for (int32_t X = 0; X < Width; ++X, Out += 4)
 		{
 			uint32_t Sum[4] = {0, 0, 0, 0};
+			uint32_t Shares = 0;
 			for (int32_t SubY = 0; SubY < Scale; ++SubY)
 			{
 				const uint8_t* In = &Pixels[(FirstRow + size_t(SubY)) * RowBytes + size_t(X) * size_t(Scale) * 4];
 				for (int32_t SubX = 0; SubX < Scale; ++SubX, In += 4)
 				{
+					const uint32_t Share = bCovered ? 255u : In[3];
 					for (int Channel = 0; Channel < 3; ++Channel)
 					{
-						Sum[Channel] += uint32_t(In[Channel]) * In[3];
+						Sum[Channel] += uint32_t(In[Channel]) * Share;
 					}
+					Shares += Share;
 					Sum[3] += In[3];
 				}
 			}
-			const uint32_t Weight = Sum[3] > 0 ? Sum[3] : 1;
+			const uint32_t Weight = Shares > 0 ? Shares : 1;
 			Out[0] = uint8_t((Sum[2] + Weight / 2) / Weight);
 			Out[1] = uint8_t((Sum[1] + Weight / 2) / Weight);
 			Out[2] = uint8_t((Sum[0] + Weight / 2) / Weight);

@@ -10,8 +10,10 @@ namespace Host
  * The picture that the device drew `Scale` times too large.
  *
  * @param Pixels  [Width * Scale * Height * Scale * 4], blue first, rows from the bottom
- * @return the picture, each pixel the mean of Scale * Scale, colours weighted with their alpha
+ * @param bCovered  the picture is opaque, whatever its alpha says; otherwise colours are weighted with their alpha
+ * @return the picture, each pixel the mean of Scale * Scale
  */
-FImage PictureFromDevice(const std::vector<uint8_t>& Pixels, int32_t Width, int32_t Height, int32_t Scale);
+FImage PictureFromDevice(
+	const std::vector<uint8_t>& Pixels, int32_t Width, int32_t Height, int32_t Scale, bool bCovered);
 
 } // namespace Host

@@ -4,6 +4,7 @@
 #include "DeviceMeshes.h"
 #include "DeviceTextures.h"
 #include "EglContext.h"
+#include "Glow.h"
 #include "OffscreenWindow.h"
 #include "Resample.h"
 #include "ScreenPasses.h"
@@ -91,7 +92,7 @@ struct FSceneRenderer::FImpl
 	bool DrawOcclusion(const FSceneSnapshot& Scene, const FSceneBounds& Bounds, int Width, int Height, float Near,
 		float Far, bool bBackdrop);
 	void DrawDepths(ERenderPass Pass, const FClipMatrix& View);
-	FImage ReadPicture(int Width, int Height, int Scale);
+	FImage ReadPicture(int Width, int Height, int Scale, bool bCovered);
 };
 
 bool FSceneRenderer::FImpl::Open(std::string& OutError)
@@ -247,7 +248,7 @@ bool FSceneRenderer::FImpl::DrawOcclusion(const FSceneSnapshot& Scene, const FSc
 	return true;
 }
 
-FImage FSceneRenderer::FImpl::ReadPicture(int Width, int Height, int Scale)
+FImage FSceneRenderer::FImpl::ReadPicture(int Width, int Height, int Scale, bool bCovered)
 {
 	std::vector<uint8_t> Large(size_t(Width) * size_t(Height) * size_t(Scale * Scale) * 4);
 	Window->GetState()->PushReadFramebufferBinding();
@@ -256,7 +257,12 @@ FImage FSceneRenderer::FImpl::ReadPicture(int Width, int Height, int Scale)
 	glPixelStorei(GL_PACK_ALIGNMENT, 1);
 	glReadPixels(0, 0, Width * Scale, Height * Scale, GL_BGRA, GL_UNSIGNED_BYTE, Large.data());
 	Window->GetState()->PopReadFramebufferBinding();
-	return PictureFromDevice(Large, Width, Height, Scale);
+	FImage Picture = PictureFromDevice(Large, Width, Height, Scale, bCovered);
+	if (bCovered)
+	{
+		AddGlow(Picture);
+	}
+	return Picture;
 }
 
 FRenderResult FSceneRenderer::FImpl::Render(
@@ -303,6 +309,7 @@ FRenderResult FSceneRenderer::FImpl::Render(
 	Frame.ShadowMap = nullptr;
 	Frame.Occlusion = nullptr;
 	Frame.Pass = ERenderPass::Color;
+	Frame.bGlow = Options.bBackdrop;
 
 	Window->SetSize(Width * Scale, Height * Scale);
 	Meshes.Show(Scene, Frame, Textures, *Renderer);
@@ -345,7 +352,7 @@ FRenderResult FSceneRenderer::FImpl::Render(
 	}
 	Window->Render();
 	FRenderResult Result;
-	Result.Image = ReadPicture(Width, Height, Scale);
+	Result.Image = ReadPicture(Width, Height, Scale, Options.bBackdrop);
 	for (vtkTextureObject* Texture : {Frame.ShadowMap, Frame.Occlusion, Frame.White})
 	{
 		if (Texture)

@@ -23,6 +23,7 @@ uniform float uShadowTexel;   // width of one texel, cm; 0 without shadows
 uniform sampler2D uOcclusion;
 uniform vec2 uPixelSize;      // of the picture being drawn, in parts of its width and height
 uniform float uHasOcclusion;
+uniform float uGlow;          // 1 when alpha tells what shines by itself
 )glsl";
 
 // Keeps colours up to 0.8 as they are and rolls brighter ones off towards white, as the "PBR neutral" tone mapper of

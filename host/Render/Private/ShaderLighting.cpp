@@ -294,7 +294,8 @@ vec4 shade(Frame frame, Surface surface)
 	// A highlight lies on the surface whether or not the body lets light through: it raises the opacity by its share.
 	float body = surface.opacity * (1.0 - 0.55 * transmission);
 	float bright = clamp(max(specular.r, max(specular.g, specular.b)), 0.0, 1.0);
-	float alphaOut = uBlend == BlendTranslucent ? 1.0 - (1.0 - body) * (1.0 - bright * smoothstep(0.0, 0.05, surface.opacity)) : 1.0;
+	float alphaOut = uBlend == BlendTranslucent ? 1.0 - (1.0 - body) * (1.0 - bright * smoothstep(0.0, 0.05, surface.opacity))
+		: 1.0 - 0.5 * uGlow * clamp(uFilm.w * 0.6, 0.0, 1.0);
 	vec3 colorOut = uBlend == BlendTranslucent ? (color * body + specular) / max(alphaOut, 1e-3) : color + specular;
 	return vec4(colorOut, alphaOut);
 }

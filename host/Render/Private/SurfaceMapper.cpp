@@ -2,13 +2,17 @@
 #include "SurfaceMapper.h"
 
 #include "FrameState.h"
+#include "OpenGL.h"
 #include "Shaders.h"
 #include "VectorMath.h"
 
 #include <vtkDataObject.h>
 #include <vtkObjectFactory.h>
 #include <vtkOpenGLHelper.h>
+#include <vtkOpenGLRenderWindow.h>
+#include <vtkOpenGLState.h>
 #include <vtkOpenGLVertexBufferObject.h>
+#include <vtkRenderer.h>
 #include <vtkShaderProgram.h>
 #include <vtkTextureObject.h>
 
@@ -105,12 +109,21 @@ void FSurfaceMapper::RenderPieceStart(vtkRenderer* Renderer, vtkActor* Actor)
 			Texture->Activate();
 		}
 	}
+	if (Material->Blend != EBlend::Translucent)
+	{
+		// Alpha is then no opacity; see FFrameState::bGlow.
+		vtkOpenGLRenderWindow::SafeDownCast(Renderer->GetRenderWindow())->GetState()->vtkglDisable(GL_BLEND);
+	}
 	Superclass::RenderPieceStart(Renderer, Actor);
 }
 
 void FSurfaceMapper::RenderPieceFinish(vtkRenderer* Renderer, vtkActor* Actor)
 {
 	Superclass::RenderPieceFinish(Renderer, Actor);
+	if (Material->Blend != EBlend::Translucent)
+	{
+		vtkOpenGLRenderWindow::SafeDownCast(Renderer->GetRenderWindow())->GetState()->vtkglEnable(GL_BLEND);
+	}
 	for (vtkTextureObject* Texture : Textures)
 	{
 		if (Texture)
