@@ -2,6 +2,7 @@
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
+#include "Zef/Peer/FilesReader.h"
 
 namespace
 {
@@ -33,6 +34,10 @@ void AddProjectOptions(CLI::App& Command, FProjectOptions& Options)
 
 int main(int ArgumentCount, char** Arguments)
 {
+	if (const int Status = Zef::Peer::MaybeRunModelReader(ArgumentCount, Arguments); Status >= 0)
+	{
+		return Status;
+	}
 	CLI::App Program{"A garment application's end of the link: serves a project to the editor.", "zef-peer"};
 	Program.require_subcommand(1);
 	Program.set_help_all_flag("--help-all", "Print the help of all commands and exit");
