@@ -14,8 +14,9 @@
 #include <vtkRenderer.h>
 #include <vtkTypeInt32Array.h>
 
+#include <algorithm>
 #include <cmath>
-#include <limits>
+#include <iterator>
 
 namespace Host
 {
@@ -93,6 +94,31 @@ float CmPerUVOf(const FMeshSnapshot& Mesh, const FMeshSection& Section)
 	}
 	const double Ratio = TextureArea > 1e-12 ? std::sqrt(Area / TextureArea) : 0.0;
 	return std::isfinite(Ratio) ? float(Ratio) : 0.0f;
+}
+
+/** False when all corners of the box around the points lie outside the same side of the view. */
+bool ReachesInto(const FClipMatrix& View, vtkPolyData& Geometry, const FPlacement& Placement)
+{
+	double Box[6];
+	Geometry.GetPoints()->GetBounds(Box);
+	int Outside[6] = {0, 0, 0, 0, 0, 0};
+	for (int Corner = 0; Corner < 8; ++Corner)
+	{
+		const FFloat3 P = Placement.Origin + Placement.AxisX * float(Box[Corner & 1 ? 1 : 0]) +
+						  Placement.AxisY * float(Box[Corner & 2 ? 3 : 2]) +
+						  Placement.AxisZ * float(Box[Corner & 4 ? 5 : 4]);
+		float Clip[4];
+		for (size_t Row = 0; Row < 4; ++Row)
+		{
+			Clip[Row] = View[Row] * P.X + View[Row + 4] * P.Y + View[Row + 8] * P.Z + View[Row + 12];
+		}
+		for (size_t Axis = 0; Axis < 3; ++Axis)
+		{
+			Outside[Axis * 2] += Clip[Axis] < -Clip[3];
+			Outside[Axis * 2 + 1] += Clip[Axis] > Clip[3];
+		}
+	}
+	return std::find(std::begin(Outside), std::end(Outside), 8) == std::end(Outside);
 }
 
 const std::shared_ptr<const FMaterialSnapshot>& DefaultMaterial()
@@ -195,6 +221,7 @@ void FDeviceMeshes::Show(
 			}
 			FDrawnSection Section = Take(Geometry);
 			Section.bTranslucent = Material->Blend == EBlend::Translucent;
+			Section.Placement = Object.Placement;
 			for (FSurfaceMapper* Mapper : {Section.Mapper.Get(), Section.DepthMapper.Get()})
 			{
 				Mapper->SetFrame(&Frame);
@@ -230,11 +257,11 @@ void FDeviceMeshes::Show(
 	Textures.DropUnused();
 }
 
-bool FDeviceMeshes::HasTranslucent() const
+bool FDeviceMeshes::HasTranslucentIn(const FClipMatrix& View) const
 {
 	for (const FDrawnSection& Section : Sections)
 	{
-		if (Section.bTranslucent)
+		if (Section.bTranslucent && ReachesInto(View, *Section.Mapper->GetInput(), Section.Placement))
 		{
 			return true;
 		}

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Host/SceneCamera.h"
 #include "SurfaceMapper.h"
 
 #include <vtkActor.h>
@@ -26,6 +27,7 @@ struct FDrawnSection
 	vtkSmartPointer<FSurfaceMapper> DepthMapper;
 	vtkSmartPointer<vtkActor> Actor;
 	bool bTranslucent = false;
+	FPlacement Placement;
 };
 
 /**
@@ -40,7 +42,8 @@ public:
 
 	/** What is shown, in the scene's order; sections without triangles are left out. */
 	const std::vector<FDrawnSection>& Drawn() const { return Sections; }
-	bool HasTranslucent() const;
+	/** Whether the box around anything translucent reaches into the view. */
+	bool HasTranslucentIn(const FClipMatrix& View) const;
 
 	void Clear(vtkRenderer& Renderer);
 

@@ -327,8 +327,8 @@ FRenderResult FSceneRenderer::FImpl::Render(
 	{
 		Renderer->AddActor(Section.Actor);
 	}
-	const bool bPeel = Meshes.HasTranslucent();
-	Renderer->SetUseDepthPeeling(bPeel);
+	// Peeling is the dearest step: only when there is something to peel in the view.
+	Renderer->SetUseDepthPeeling(Meshes.HasTranslucentIn(Frame.ViewProjection));
 	Renderer->SetMaximumNumberOfPeels(std::max(1, Options.TranslucentLayers / 2));
 	Renderer->SetOcclusionRatio(0.0);
 
