@@ -124,14 +124,14 @@ int Serve(const FServeOptions& Options)
 		fmt::print(stderr, "error: {}\n", ToString(Server.Fault()));
 		return 1;
 	}
-	if (!Options.bQuiet)
-	{
-		SayLine(fmt::format("serving project \"{}\", {} objects, on {}", Name, ObjectCount, (*Server)->Endpoint()));
-	}
 	if (!Options.ReadyFile.empty() && !WriteReadyFile(Options.ReadyFile, (*Server)->Endpoint()))
 	{
 		fmt::print(stderr, "error: cannot write {}\n", Options.ReadyFile.string());
 		return 1;
+	}
+	if (!Options.bQuiet)
+	{
+		SayLine(fmt::format("serving project \"{}\", {} objects, on {}", Name, ObjectCount, (*Server)->Endpoint()));
 	}
 	{
 		FSignalWatch Watch(**Server);

@@ -151,6 +151,20 @@ void ComputeTangents(FTriangleMesh& Mesh)
 	}
 }
 
+void SeparateTriangles(FTriangleMesh& Mesh)
+{
+	FTriangleMesh Separate;
+	for (const std::uint32_t V : Mesh.Triangles)
+	{
+		Separate.Triangles.push_back(Separate.Add(Mesh.Positions[V], Mesh.Normals[V], Mesh.UVs[V]));
+		if (!Mesh.Tangents.empty())
+		{
+			Separate.Tangents.push_back(Mesh.Tangents[V]);
+		}
+	}
+	Mesh = std::move(Separate);
+}
+
 void FaceTowardsNormals(FTriangleMesh& Mesh)
 {
 	for (std::size_t T = 0; T + 2 < Mesh.Triangles.size(); T += 3)

@@ -39,6 +39,9 @@ void ComputeNormalsAcrossSeams(FTriangleMesh& Mesh);
 /** Unit tangents along growing U, square to the normals; some direction square to the normal where U stands still. */
 void ComputeTangents(FTriangleMesh& Mesh);
 
+/** Gives every triangle vertices of its own, equal to those that it shared. */
+void SeparateTriangles(FTriangleMesh& Mesh);
+
 /** Turns every triangle round whose front looks away from the normals of its corners. */
 void FaceTowardsNormals(FTriangleMesh& Mesh);
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include <tiny_gltf.h>
+#include "Files/Gltf/GltfLibrary.h"
 
 namespace Zef::Peer
 {

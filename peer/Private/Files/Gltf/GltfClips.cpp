@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include <tiny_gltf.h>
+#include "Files/Gltf/GltfLibrary.h"
 
 #include "Files/Gltf/GltfAccessor.h"
 #include "Files/Gltf/GltfParts.h"

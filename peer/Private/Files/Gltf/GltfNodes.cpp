@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <tiny_gltf.h>
+#include "Files/Gltf/GltfLibrary.h"
 
 #include "Files/Gltf/GltfAccessor.h"
 #include "Files/Gltf/GltfParts.h"

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <map>
 
-#include <tiny_gltf.h>
+#include "Files/Gltf/GltfLibrary.h"
 
 #include "Files/Gltf/GltfAccessor.h"
 #include "Files/Gltf/GltfParts.h"

@@ -2,7 +2,7 @@
 #include <fstream>
 #include <iterator>
 
-#include <tiny_gltf.h>
+#include "Files/Gltf/GltfLibrary.h"
 
 #include "Files/Gltf/GltfParts.h"
 #include "Files/Model/Readers.h"
@@ -31,6 +31,34 @@ bool LoadImageOrWarn(tinygltf::Image* Image, const int Index, std::string*, std:
 	Image->bits = Texture.Format == 0 ? 8 : 16;
 	Image->image = std::move(Texture.Pixels);
 	return true;
+}
+
+bool IsFile(const std::string& Path, void*)
+{
+	std::error_code Ignored;
+	return std::filesystem::is_regular_file(Path, Ignored);
+}
+
+/** Paths are taken as they stand: nothing in a file of somebody else is expanded. */
+std::string SamePath(const std::string& Path, void*)
+{
+	return Path;
+}
+
+bool ReadWhole(std::vector<unsigned char>* Out, std::string* Error, const std::string& Path, void*)
+{
+	std::ifstream Stream(Path, std::ios::binary);
+	Out->assign(std::istreambuf_iterator<char>(Stream), std::istreambuf_iterator<char>());
+	if (Out->empty() && Error)
+	{
+		*Error += Path + " is empty or cannot be read.\n";
+	}
+	return !Out->empty();
+}
+
+bool WriteNothing(std::string*, const std::string&, const std::vector<unsigned char>&, void*)
+{
+	return false;
 }
 
 std::string OneLine(std::string Text)
@@ -67,6 +95,7 @@ std::string ReadGltf(const std::filesystem::path& Path, FModel& Model)
 {
 	tinygltf::TinyGLTF Library;
 	Library.SetImageLoader(&LoadImageOrWarn, nullptr);
+	Library.SetFsCallbacks({&IsFile, &SamePath, &ReadWhole, &WriteNothing, nullptr});
 	tinygltf::Model File;
 	std::string Error, Warning;
 	std::ifstream Stream(Path, std::ios::binary);

@@ -29,6 +29,9 @@ FGarmentPieces::FGarmentPieces(const FFigure& Figure, const FGarmentMaterials& M
 	AddSkin(Figure, "Dress/Bodice Front", Materials.Herringbone, std::move(Bodice.Front));
 	AddSkin(Figure, "Dress/Bodice Back", Materials.Herringbone, std::move(Bodice.Back));
 	AddSkin(Figure, "Dress/Placket", Materials.Satin, std::move(Bodice.Placket));
+	// The piping comes from a tool that writes each triangle by itself: something for the welding to do.
+	ComputeTangents(Bodice.Binding);
+	SeparateTriangles(Bodice.Binding);
 	AddSkin(Figure, "Dress/Binding", Materials.Velvet, std::move(Bodice.Binding));
 	AddSkin(Figure, "Dress/Buttons", Materials.Pearl, std::move(Bodice.Buttons));
 	AddSkin(Figure, "Dress/Label", Materials.Label, std::move(Bodice.Label));
@@ -41,7 +44,10 @@ void FGarmentPieces::AddSkin(const FFigure& Figure, const std::string& Surface, 
 	FGarmentPiece Piece;
 	Piece.Surface = Surface;
 	Piece.Material = Material;
-	ComputeTangents(Mesh);
+	if (Mesh.Tangents.empty())
+	{
+		ComputeTangents(Mesh);
+	}
 	Piece.Symmetric = std::move(Mesh);
 	Piece.Weights = WeightsOf(Figure.Skeleton, Piece.Symmetric);
 	Piece.Mesh = Piece.Symmetric;

@@ -190,7 +190,10 @@ void FAssembly::AddSurface(const std::string& Name, std::vector<FPiece> Pieces, 
 	for (FPiece& Piece : Pieces)
 	{
 		FTriangleMesh& Mesh = Piece.Mesh;
-		ComputeTangents(Mesh);
+		if (Mesh.Tangents.empty())
+		{
+			ComputeTangents(Mesh);
+		}
 		const auto Base = static_cast<std::int32_t>(Surface.Positions.size());
 		Surface.Positions.insert(Surface.Positions.end(), Mesh.Positions.begin(), Mesh.Positions.end());
 		Surface.Normals.insert(Surface.Normals.end(), Mesh.Normals.begin(), Mesh.Normals.end());

@@ -64,7 +64,7 @@ public:
 	int AddTexture(FTexture Texture);
 	int AddMaterial(const FLook& Look);
 
-	/** All pieces become one surface, each a section; tangents are computed. */
+	/** All pieces become one surface, each a section; tangents are computed where a piece has none. */
 	void AddSurface(const std::string& Name, std::vector<FPiece> Pieces, int SurfaceMode = 0);
 
 	FSurfaceMesh Take() { return std::move(Result); }
