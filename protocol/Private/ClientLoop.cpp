@@ -15,7 +15,11 @@ namespace
 constexpr int MessagesInARow = 256;
 
 constexpr std::uint64_t EventBytes = 256;
+/** When so many events wait for the program, the peer is not credited, and further reports of faults are left out. */
 constexpr std::size_t WaitingEvents = 4096;
+
+/** Requests that a peer that takes nothing leaves waiting; beyond that a send fails. */
+constexpr std::size_t MaxQueuedItems = 4096;
 
 /** The longest time between two attempts to connect, as a multiple of the shortest. */
 constexpr int SlowestRetry = 5;
@@ -243,7 +247,10 @@ void FClientEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 	}
 	else
 	{
-		Session->Receive(*Prefix, Parts, 1);
+		if (const FLinkFault Fatal = Session->Receive(*Prefix, Parts, 1))
+		{
+			TurnedAway(Fatal);
+		}
 	}
 }
 
@@ -311,7 +318,8 @@ void FClientEndpoint::FImpl::Serve()
 	{
 		const std::lock_guard Lock(Mutex);
 		Taken.swap(Commands);
-		bHold = WaitingCost > Options.Limits.MaxItemBytes;
+		bHold = IsBehind();
+		QueuedItems += Taken.size();
 	}
 	if (!Session || bDisconnected)
 	{
@@ -324,6 +332,8 @@ void FClientEndpoint::FImpl::Serve()
 	Session->DropStalled(FClock::now(), Options.StallTime);
 	Session->SendCredit(bHold);
 	Session->Pump();
+	const std::lock_guard Lock(Mutex);
+	QueuedItems = Session->Outbox().Count();
 }
 
 void FClientEndpoint::FImpl::KeepTime()
@@ -426,6 +436,7 @@ void FClientEndpoint::FImpl::SetPhase(EPhase NewPhase, const std::string& Reason
 	if (OldPhase == EPhase::Up)
 	{
 		Commands.clear();
+		QueuedItems = 0;
 		PushLoss(Reason);
 	}
 	if (NewPhase == EPhase::Absent || NewPhase == EPhase::Refused)
@@ -458,6 +469,11 @@ void FClientEndpoint::FImpl::PushLoss(const std::string& Reason)
 	Push(std::move(Event));
 }
 
+bool FClientEndpoint::FImpl::IsBehind() const
+{
+	return WaitingCost > Options.Limits.MaxItemBytes || Events.size() > WaitingEvents;
+}
+
 void FClientEndpoint::FImpl::Push(FEvent&& Event)
 {
 	if (Event.Kind == EEvent::Fault && Events.size() > WaitingEvents)
@@ -477,6 +493,10 @@ bool FClientEndpoint::FImpl::Send(FEncodedItem&& Item)
 		switch (Phase)
 		{
 			case EPhase::Up:
+				if (QueuedItems + Commands.size() >= MaxQueuedItems)
+				{
+					return false;
+				}
 				Commands.push_back(std::move(Item));
 				break;
 			case EPhase::Searching:
@@ -503,12 +523,12 @@ std::size_t FClientEndpoint::FImpl::Poll(IClientHandler& Handler, std::chrono::m
 	}
 	while (!bStopped && !Events.empty())
 	{
+		const bool bWasBehind = IsBehind();
 		FEvent Event = std::move(Events.front());
 		Events.pop_front();
 		bLossWaits = bLossWaits && !(Event.Kind == EEvent::Connection && !Event.bFlag);
-		const bool bHeld = WaitingCost > Options.Limits.MaxItemBytes;
 		WaitingCost -= Event.Cost;
-		const bool bRelease = bHeld && WaitingCost <= Options.Limits.MaxItemBytes;
+		const bool bRelease = bWasBehind && !IsBehind();
 		Lock.unlock();
 		if (bRelease)
 		{

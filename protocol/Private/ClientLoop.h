@@ -95,6 +95,7 @@ private:
 	void FailHeld(FClock::time_point Until);
 	void PushLoss(const std::string& Reason);
 	void Push(FEvent&& Event);
+	bool IsBehind() const;
 
 	static void Deliver(FEvent& Event, IClientHandler& Handler);
 
@@ -112,6 +113,7 @@ private:
 	bool bLossWaits = false; // a loss is among the events and nothing after it tells of a link
 	std::deque<FHeldItem> Held;
 	std::deque<FEncodedItem> Commands;
+	std::size_t QueuedItems = 0; // in the session's outbox
 
 	// Of the thread
 	FClock::time_point PhaseDeadline = FClock::time_point::max();

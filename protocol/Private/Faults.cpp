@@ -24,6 +24,8 @@ constexpr FFaultInfo Table[] = {
 	{EFault::Truncated, "Truncated", Error, "An item ended before all its bytes had come."},
 	{EFault::Stalled, "Stalled", Error, "Nothing arrived for a long time in the middle of an item."},
 	{EFault::HeaderTooLarge, "HeaderTooLarge", Error, "The header of an item is longer than this end takes."},
+	{EFault::WindowOverrun, "WindowOverrun", Fatal,
+		"More bytes are under way than the greeting allowed; wait for credit."},
 	{EFault::VersionUnknown, "VersionUnknown", Fatal,
 		"The two ends share no version of the protocol; update the older one."},
 	{EFault::NotGreeted, "NotGreeted", Fatal, "A message came before the greeting; a connection begins with Hello."},
@@ -63,6 +65,8 @@ constexpr FFaultInfo Table[] = {
 	{EFault::JointTable, "JointTable", Error,
 		"A frame names a pose layout that the sequence does not have, or a layout a joint "
 		"that the mesh does not have."},
+	{EFault::ScalarMissing, "ScalarMissing", Error,
+		"A roughness, metallic, specular or opacity channel lacks a scalar that every such channel has."},
 	{EFault::SequenceUnexpected, "SequenceUnexpected", Error,
 		"A frame or an end came while no mesh sequence was open, or a "
 		"beginning while one was."},

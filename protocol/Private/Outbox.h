@@ -48,7 +48,8 @@ public:
 	/** Array bytes of the queued items that are known and not yet given out. */
 	std::uint64_t QueuedBytes() const { return Queued; }
 
-	bool IsEmpty() const { return Entries.empty(); }
+	/** Entries that are not wholly given out. */
+	std::size_t Count() const { return Entries.size(); }
 
 private:
 	struct FEntry

@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds LastWordsTime(20);
 /** What an event costs beside its arrays. */
 constexpr std::uint64_t EventBytes = 256;
 
-/** Reports of a peer that sends nothing but faults are cut off at so many that nobody has looked at. */
+/** When so many events wait for the program, nobody is credited, and further reports of faults are left out. */
 constexpr std::size_t WaitingEvents = 4096;
 } // namespace
 
@@ -256,7 +256,10 @@ void FServerEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 	}
 	else
 	{
-		Client.Session->Receive(*Prefix, Parts, 2);
+		if (const FLinkFault Fatal = Client.Session->Receive(*Prefix, Parts, 2))
+		{
+			Refuse(Client, Fatal.Code, Fatal.Message);
+		}
 	}
 }
 
@@ -385,7 +388,12 @@ FServerEndpoint::FImpl::FClient* FServerEndpoint::FImpl::Find(FClientId Id)
 bool FServerEndpoint::FImpl::IsHolding() const
 {
 	const std::lock_guard Lock(Mutex);
-	return WaitingCost > Options.Limits.MaxItemBytes;
+	return IsBehind();
+}
+
+bool FServerEndpoint::FImpl::IsBehind() const
+{
+	return WaitingCost > Options.Limits.MaxItemBytes || Events.size() > WaitingEvents;
 }
 
 void FServerEndpoint::FImpl::FClient::OnDecoded(FDecodedItem&& Item, double)
@@ -428,11 +436,11 @@ std::size_t FServerEndpoint::FImpl::Poll(IServerHandler& Handler, std::chrono::m
 	bWakePoll = false;
 	while (!Events.empty())
 	{
+		const bool bWasBehind = IsBehind();
 		FEvent Event = std::move(Events.front());
 		Events.pop_front();
-		const bool bHeld = WaitingCost > Options.Limits.MaxItemBytes;
 		WaitingCost -= Event.Cost;
-		const bool bRelease = bHeld && WaitingCost <= Options.Limits.MaxItemBytes;
+		const bool bRelease = bWasBehind && !IsBehind();
 		Lock.unlock();
 		if (bRelease)
 		{

@@ -109,6 +109,9 @@ private:
 	FClient* Find(FClientId Id);
 	bool IsHolding() const;
 
+	// Under the mutex
+	bool IsBehind() const;
+
 	// From the thread to the program
 	void Push(FEvent&& Event);
 	static void Deliver(FEvent& Event, IServerHandler& Handler);

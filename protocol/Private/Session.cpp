@@ -8,6 +8,7 @@ FSession::FSession(zmq::socket_t& InSocket, std::string InIdentity, IRecordFacto
 	const FLimits& Limits, ISessionEvents& InEvents)
 	: Socket(InSocket)
 	, Identity(std::move(InIdentity))
+	, WindowBytes(Limits.WindowBytes)
 	, Events(InEvents)
 	, Decoder(Factory, Receiver, Limits)
 {
@@ -24,7 +25,7 @@ void FSession::ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber)
 	Events.OnDropped(Fault);
 }
 
-void FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart)
+FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart)
 {
 	const std::size_t Expected = Prefix.Frame == EFrame::Credit ? 0 : 1;
 	if (Parts.size() - FirstPart != Expected)
@@ -33,7 +34,7 @@ void FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts
 						std::to_string(Expected + 1) + " parts were expected; " +
 							std::to_string(Parts.size() - FirstPart + 1) + " came."),
 			Prefix.Item);
-		return;
+		return {};
 	}
 	if (Prefix.Frame == EFrame::Credit)
 	{
@@ -42,9 +43,16 @@ void FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts
 			ReportFault(MakeFault(
 				EFault::BadPrefix, "", "A credit of " + std::to_string(Prefix.Offset) + " bytes was never sent."));
 		}
-		return;
+		return {};
 	}
 	const FByteView Body = ViewOf(Parts[FirstPart]);
+	const std::uint64_t UnderWay = Taken - Credited;
+	if (UnderWay != 0 && UnderWay + Body.size() > WindowBytes)
+	{
+		return MakeFault(EFault::WindowOverrun, "",
+			"At most " + std::to_string(WindowBytes) + " bytes were expected under way; " +
+				std::to_string(UnderWay + Body.size()) + " were.");
+	}
 	Taken += Body.size();
 	LastArrival = FClock::now();
 	if (Prefix.Frame == EFrame::Item)
@@ -66,6 +74,7 @@ void FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts
 	{
 		ReportFault(MakeFault(EFault::UnknownFrame, "", "A greeting came on a connection that was greeted."));
 	}
+	return {};
 }
 
 void FSession::HandleResult(EDecode Result)

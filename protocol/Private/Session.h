@@ -36,8 +36,11 @@ public:
 
 	FOutbox& Outbox() { return Out; }
 
-	/** Handles one message other than the greeting's. Parts are what follows the prefix. */
-	void Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart);
+	/**
+	 * Handles one message other than the greeting's; its parts from FirstPart on are what follows the prefix.
+	 * @return code None, or the fault for which the connection has to end
+	 */
+	FLinkFault Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart);
 
 	/** Tells the other end that a message was dropped before it could be understood. */
 	void ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber = 0);
@@ -59,6 +62,7 @@ private:
 
 	zmq::socket_t& Socket;
 	const std::string Identity;
+	const std::uint64_t WindowBytes;
 	ISessionEvents& Events;
 	FItemDecoder Decoder;
 	FOutbox Out;

@@ -3,6 +3,7 @@
 #include "Text.h"
 #include "Zef/Check.h"
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_set>
 
@@ -92,7 +93,9 @@ public:
 	bool Joints(const FSurfaceMesh& Mesh);
 	bool Influences(const FSurfaceMesh& Mesh, const FMeshCounts& Counts);
 	bool Materials(const FSurfaceMesh& Mesh);
-	bool Material(const FMaterial& Material, const std::string& Path);
+	bool Material(const FSurfaceMesh& Mesh, const FMaterial& Material, const std::string& Path);
+	bool ChannelScalars(
+		const FSurfaceMesh& Mesh, std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path);
 	bool Expression(const FMaterialExpression& Expression, const std::string& Path);
 	bool Textures(const FSurfaceMesh& Mesh, const FMeshCounts& Counts);
 
@@ -274,7 +277,26 @@ bool FStructureCheck::Expression(const FMaterialExpression& Expression, const st
 	return false;
 }
 
-bool FStructureCheck::Material(const FMaterial& Material, const std::string& Path)
+/** The editor reads these scalars without asking whether they are there. */
+bool FStructureCheck::ChannelScalars(
+	const FSurfaceMesh& Mesh, std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path)
+{
+	if (Channel < MaterialChannel::Roughness || Channel > MaterialChannel::Opacity)
+	{
+		return false;
+	}
+	const auto HasKey = [](const auto& Map, std::int32_t Key)
+	{ return std::any_of(Map.begin(), Map.end(), [Key](const auto& Entry) { return Entry.first == Key; }); };
+	const auto Missing = [&](std::int32_t Key)
+	{
+		return Refuse(
+			!HasKey(Expression.Scalars, Key), EFault::ScalarMissing, [&] { return Path + "/Scalars"; },
+			[&] { return "Key " + std::to_string(Key) + " was expected; it did not come."; });
+	};
+	return Missing(1) || (HasKey(Mesh.Textures, Expression.TextureId) && Missing(0));
+}
+
+bool FStructureCheck::Material(const FSurfaceMesh& Mesh, const FMaterial& Material, const std::string& Path)
 {
 	if (Text(Material.Name, Limits.MaxNameBytes, [&] { return Path + "/Name"; }) ||
 		Text(Material.SubstanceAssetPath, Limits.MaxPathBytes, [&] { return Path + "/SubstanceAssetPath"; }) ||
@@ -287,7 +309,9 @@ bool FStructureCheck::Material(const FMaterial& Material, const std::string& Pat
 	}
 	for (std::size_t Index = 0; Index < Material.Expressions.size(); ++Index)
 	{
-		if (Expression(Material.Expressions[Index].second, At(Path, "Expressions", Index)))
+		const auto& [Channel, Value] = Material.Expressions[Index];
+		const std::string Place = At(Path, "Expressions", Index);
+		if (Expression(Value, Place) || ChannelScalars(Mesh, Channel, Value, Place))
 		{
 			return true;
 		}
@@ -304,7 +328,7 @@ bool FStructureCheck::Materials(const FSurfaceMesh& Mesh)
 	}
 	for (std::size_t Index = 0; Index < Mesh.Materials.size(); ++Index)
 	{
-		if (Material(Mesh.Materials[Index].second, At("", "Materials", Index)))
+		if (Material(Mesh, Mesh.Materials[Index].second, At("", "Materials", Index)))
 		{
 			return true;
 		}

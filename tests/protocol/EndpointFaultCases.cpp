@@ -115,6 +115,45 @@ std::vector<FFaultCase> EndpointFaultCases()
 					End.Send(
 						{Prefix(EFrame::Item, 1), Zef::EncodeSurfaceMesh(EObjectType::Avatar, SampleMesh()).Header});
 				})},
+		{"OfTheApplication", EFault::WindowOverrun, "",
+			[]
+			{
+				const FTestFolder Folder;
+				FRawApplication Application(Folder.Socket());
+				Zef::FClientOptions Options = QuickClient();
+				Options.Limits.WindowBytes = 1000;
+				Options.Limits.MaxItemBytes = 1; // the first item that waits holds all credit back
+				FEditor Editor(Folder.Socket(), Options);
+				Application.Welcome();
+				for (std::uint64_t Item = 1; Item <= 100; ++Item)
+				{
+					Application.SendItem(Zef::EncodeAvailability({}), Item);
+				}
+				// Nothing is polled meanwhile: polling gives credit.
+				const std::vector<Zef::FBytes> Next = Application.ReceiveFrame(EFrame::Hello);
+				Until(&Editor, nullptr, [&] { return !Editor.Faults.empty(); });
+				EXPECT_LT(Editor.Availabilities.size(), 100u);
+				return Editor.Faults.empty() ? Zef::FLinkFault() : Editor.Faults[0];
+			}},
+		{"OfTheEditor", EFault::WindowOverrun, "",
+			[]
+			{
+				const FTestFolder Folder;
+				Zef::FServerOptions Options;
+				Options.Limits.WindowBytes = 1000;
+				Options.Limits.MaxItemBytes = 1;
+				FApplication Application(Folder.Socket(), Options);
+				FRawEditor Editor(Folder.Socket());
+				Editor.Greet();
+				for (std::uint64_t Item = 1; Item <= 100; ++Item)
+				{
+					Editor.SendItem(Zef::EncodeEnable(true), Item);
+				}
+				const std::vector<Zef::FBytes> Refused = Editor.ReceiveFrame(EFrame::Refused);
+				Until(nullptr, &Application, [&] { return !Application.Faults.empty() && Application.Gone == 1; });
+				EXPECT_LT(Application.Enables.size(), 100u);
+				return Application.Faults.empty() ? Zef::FLinkFault() : Application.Faults[0];
+			}},
 
 		{"OfTheEditor", EFault::VersionUnknown, "",
 			FromEditor(

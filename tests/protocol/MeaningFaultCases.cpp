@@ -68,6 +68,11 @@ std::function<Zef::FLinkFault()> Request(std::function<Zef::FEncodedItem()> Enco
 		return Application.Decoder.Fault();
 	};
 }
+/** Scalars of the channel that SampleMesh puts first. */
+std::vector<std::pair<std::int32_t, float>>& ScalarsOfRoughness(Zef::FSurfaceMesh& Mesh)
+{
+	return Mesh.Materials[1].second.Expressions[0].second.Scalars;
+}
 } // namespace
 
 std::vector<FFaultCase> MeaningFaultCases()
@@ -214,6 +219,16 @@ std::vector<FFaultCase> MeaningFaultCases()
 			Mesh(
 				[](FMesh& M) {
 					M.Materials[1].second.Expressions[1].second.Vectors.push_back({0, {}});
+				})},
+
+		{"Value", EFault::ScalarMissing, "/Materials/1/Expressions/0/Scalars",
+			Mesh([](FMesh& M) { std::erase_if(ScalarsOfRoughness(M), [](const auto& S) { return S.first == 1; }); })},
+		{"IntensityOfAMap", EFault::ScalarMissing, "/Materials/1/Expressions/0/Scalars",
+			Mesh(
+				[](FMesh& M)
+				{
+					M.Materials[1].second.Expressions[0].second.TextureId = M.Textures[0].first;
+					std::erase_if(ScalarsOfRoughness(M), [](const auto& S) { return S.first == 0; });
 				})},
 
 		{"Two", EFault::TextureFormat, "/Textures/0/Format", Mesh([](FMesh& M) { M.Textures[0].second.Format = 2; })},

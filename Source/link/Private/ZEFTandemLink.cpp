@@ -11,7 +11,7 @@
 TSharedPtr<FZEFTandemLink> FZEFTandemLink::Open(const FString& ChannelName)
 {
 	Zef::FClientOptions Options;
-	Options.Program = "Unreal Editor with ZEFTandem";
+	Options.Program = "ZEFTandem editor";
 	auto Opened = Zef::FClientEndpoint::Open(
 		ZEFRecordConversion::FromString(ChannelName), std::make_shared<FZEFRecordFactory>(), Options);
 	if (!Opened)

@@ -67,7 +67,8 @@ struct FClientOptions
  * from any thread and never block. One made while the link is being established (not yet refused, within ConnectGrace
  * of Open, or greeting a peer that has just come up) is held and goes out when the link is up. One made while there is
  * no peer returns false and is told once through OnConnectionChanged(false) at the next Poll, also when the link was
- * never up; several such between two Polls are told once.
+ * never up; several such between two Polls are told once. A send also returns false when thousands of requests wait for
+ * a peer that takes nothing.
  */
 class FClientEndpoint
 {

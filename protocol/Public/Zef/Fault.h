@@ -35,6 +35,7 @@ enum class EFault : std::uint16_t
 	Truncated = 108,
 	Stalled = 109,
 	HeaderTooLarge = 110,
+	WindowOverrun = 111,
 
 	// Hello
 	VersionUnknown = 201,
@@ -75,6 +76,7 @@ enum class EFault : std::uint16_t
 	PixelCount = 419,
 	TimeOrder = 420,
 	JointTable = 421,
+	ScalarMissing = 422,
 
 	// Mesh sequence
 	SequenceUnexpected = 501,
