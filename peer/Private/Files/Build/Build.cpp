@@ -28,7 +28,7 @@ std::vector<FTransform> RestOf(const FModel& Model)
 }
 
 /** Centimetres per unit of a file that does not say: no garment or person is 10 m tall, none below 10 cm. */
-float GuessUnit(const FModel& Model, const std::vector<FPlacement>& Placements, FReadObject& Object)
+float GuessUnit(const FModel& Model, const std::vector<FPiecePlacement>& Placements, FReadObject& Object)
 {
 	constexpr float LargestInMetres = 10;
 	FBox Box;
@@ -60,8 +60,8 @@ public:
 
 	std::string Build(EObjectType Type)
 	{
-		const FPose Pose{Model, NodePlaces, Skeleton};
-		std::vector<FPlacement> Placements;
+		const FModelPose Pose{Model, NodePlaces, Skeleton};
+		std::vector<FPiecePlacement> Placements;
 		for (const FModelPiece& Piece : Model.Pieces)
 		{
 			Placements.push_back(PlaceVertices(Pose, Piece));
@@ -122,7 +122,7 @@ private:
 		}
 	}
 
-	void BuildInfluences(const std::vector<std::size_t>& Kept, const std::vector<FPlacement>& Placements)
+	void BuildInfluences(const std::vector<std::size_t>& Kept, const std::vector<FPiecePlacement>& Placements)
 	{
 		FInfluences& Influences = Object.Mesh.VertexInfluences;
 		Influences.FirstWeight.push_back(0);
@@ -206,7 +206,7 @@ private:
 		}
 	}
 
-	void BuildMorphFrames(const std::vector<std::size_t>& Kept, const std::vector<FPlacement>& Placements)
+	void BuildMorphFrames(const std::vector<std::size_t>& Kept, const std::vector<FPiecePlacement>& Placements)
 	{
 		const auto Moves = [&](const FModelNodeTracks& Tracks)
 		{
@@ -240,7 +240,7 @@ private:
 		}
 	}
 
-	void AppendMorphed(const FModelPiece& Piece, const std::vector<float>& Weights, const FPlacement& Placement,
+	void AppendMorphed(const FModelPiece& Piece, const std::vector<float>& Weights, const FPiecePlacement& Placement,
 		const FSurface& Surface, FMeshSequenceFrame& Frame) const
 	{
 		std::vector<FVec3> Positions, Normals;
@@ -258,7 +258,7 @@ private:
 	FModel& Model;
 	FReadObject& Object;
 	std::vector<FMatrix34> NodePlaces;
-	FSkeleton Skeleton;
+	FModelSkeleton Skeleton;
 	FMatrix34 ToEngine;
 	std::int32_t VertexCount = 0;
 };

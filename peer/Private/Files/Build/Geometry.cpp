@@ -33,7 +33,7 @@ std::vector<FBoneWeight> Normalize(const std::vector<FModelWeight>& Weights, con
 	return Made;
 }
 
-void PlaceSkin(const FPose& Pose, const FModelPiece& Piece, FPlacement& Made)
+void PlaceSkin(const FModelPose& Pose, const FModelPiece& Piece, FPiecePlacement& Made)
 {
 	const FModelSkin& Skin = Pose.Model.Skins[static_cast<std::size_t>(Piece.Skin)];
 	std::vector<int> JointOfSkin;
@@ -80,9 +80,9 @@ bool IsZero(const FVec3& V)
 
 } // namespace
 
-FPlacement PlaceVertices(const FPose& Pose, const FModelPiece& Piece)
+FPiecePlacement PlaceVertices(const FModelPose& Pose, const FModelPiece& Piece)
 {
-	FPlacement Made;
+	FPiecePlacement Made;
 	if (Piece.Skin >= 0 && !Pose.Model.Skins[static_cast<std::size_t>(Piece.Skin)].Joints.empty())
 	{
 		PlaceSkin(Pose, Piece, Made);
@@ -130,7 +130,7 @@ FVec3 MoveNormal(const FMatrix34& Way, const FVec3& Normal)
 	return Normalized(Determinant(Way) < 0 ? -Moved : Moved, {0, 0, 0});
 }
 
-FSurface BuildSurface(const FModelPiece& Piece, const FPlacement& Placement, const FMatrix34& ToEngine)
+FSurface BuildSurface(const FModelPiece& Piece, const FPiecePlacement& Placement, const FMatrix34& ToEngine)
 {
 	FSurface Surface;
 	Surface.Name = CleanName(Piece.Name);

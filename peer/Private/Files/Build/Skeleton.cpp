@@ -96,9 +96,9 @@ std::vector<FMatrix34> PlaceNodes(const FModel& Model, const std::vector<FTransf
 	return Places;
 }
 
-FSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePlaces)
+FModelSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePlaces)
 {
-	FSkeleton Made;
+	FModelSkeleton Made;
 	const std::vector<bool> IsJoint = NodesOfJoints(Model);
 	Made.JointOfNode.assign(Model.Nodes.size(), -1);
 	int Roots = 0;
@@ -158,7 +158,12 @@ FSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePl
 		const FMatrix34 Stand = Rest[Top] * Skin.InverseBind[TopInSkin];
 		for (std::size_t I = 0; I < Skin.Joints.size(); ++I)
 		{
-			const auto Joint = static_cast<std::size_t>(Made.JointOfNode[static_cast<std::size_t>(Skin.Joints[I])]);
+			const int Found = Made.JointOfNode[static_cast<std::size_t>(Skin.Joints[I])];
+			if (Found < 0)
+			{
+				continue; // a skin that nothing wears
+			}
+			const auto Joint = static_cast<std::size_t>(Found);
 			if (!IsBound[Joint] && IsUsable(Skin.InverseBind[I]))
 			{
 				IsBound[Joint] = true;
@@ -189,7 +194,7 @@ FSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePl
 	return Made;
 }
 
-int JointAbove(const FModel& Model, const FSkeleton& Skeleton, int Node)
+int JointAbove(const FModel& Model, const FModelSkeleton& Skeleton, int Node)
 {
 	for (; Node >= 0; Node = ParentOf(Model, Node))
 	{

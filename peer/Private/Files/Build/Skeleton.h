@@ -10,7 +10,7 @@ namespace Zef::Peer
 /** Places of all nodes in the file's space, from their local places. Nodes in a circle stay where they are. */
 std::vector<FMatrix34> PlaceNodes(const FModel& Model, const std::vector<FTransform>& Locals);
 
-struct FSkeleton
+struct FModelSkeleton
 {
 	std::vector<int> Nodes;			  // of each joint, parents before children; -1: a root that the file lacks
 	std::vector<int> Parents;		  // of each joint
@@ -25,9 +25,9 @@ struct FSkeleton
  * that mesh and joints agree exactly; a joint of no skin keeps its place at its parent. Files whose bind matrices are
  * no rotations, shifts and scales are posed as their nodes stand.
  */
-FSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePlaces);
+FModelSkeleton MakeSkeleton(const FModel& Model, const std::vector<FMatrix34>& NodePlaces);
 
 /** The joint that moves what hangs at a node: its own, else that of the nearest ancestor, else the root. */
-int JointAbove(const FModel& Model, const FSkeleton& Skeleton, int Node);
+int JointAbove(const FModel& Model, const FModelSkeleton& Skeleton, int Node);
 
 } // namespace Zef::Peer
