@@ -20,9 +20,9 @@ UWorld::UWorld(const FObjectInitializer& ObjectInitializer)
 {
 }
 
-UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType, bool, FName WorldName, UObject* InWorldPackage)
+UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType, bool, FName WorldName, UPackage* InWorldPackage)
 {
-	UObject* const Outer = InWorldPackage ? InWorldPackage : GetTransientPackage();
+	UPackage* const Outer = InWorldPackage ? InWorldPackage : GetTransientPackage();
 	UWorld* const World = NewObject<UWorld>(Outer, WorldName, RF_Transient);
 	World->WorldType = InWorldType;
 	World->Scene = new Host::FScene(World);

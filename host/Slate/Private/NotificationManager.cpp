@@ -35,6 +35,7 @@ FSlateNotificationManager& FSlateNotificationManager::Get()
 
 TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const FNotificationInfo& Info)
 {
+	Tick();
 	const TSharedRef<SNotificationItem> Item = SNew(SNotificationItem, Info);
 	if (Info.bFireAndForget)
 	{

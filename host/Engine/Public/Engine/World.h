@@ -56,7 +56,7 @@ public:
 	 * @param InWorldPackage  the outer; the transient package when null
 	 */
 	static UWorld* CreateWorld(const EWorldType::Type InWorldType, bool bInformEngineOfWorld,
-		FName WorldName = NAME_None, UObject* InWorldPackage = nullptr);
+		FName WorldName = NAME_None, UPackage* InWorldPackage = nullptr);
 
 	/**
 	 * Makes an actor and puts it into the level.
