@@ -18,8 +18,8 @@ public:
 	virtual ~FAdvancedPreviewScene() override;
 
 	/** True when the mouse move turned something. */
-	bool HandleViewportInput(FViewport* InViewport, FInputDeviceId DeviceId, FKey Key, float Delta,
-		float DeltaTime, int32 NumSamples, bool bGamepad);
+	bool HandleViewportInput(FViewport* InViewport, FInputDeviceId DeviceId, FKey Key, float Delta, float DeltaTime,
+		int32 NumSamples, bool bGamepad);
 	/** True when the key switched something. */
 	bool HandleInputKey(const FInputKeyEventArgs& EventArgs);
 

@@ -76,8 +76,9 @@ FReply FSceneViewport::OnKeyDown(const FGeometry&, const FKeyEvent& InKeyEvent)
 {
 	KeyStateMap.Add(InKeyEvent.GetKey(), true);
 	const EInputEvent Event = InKeyEvent.IsRepeat() ? IE_Repeat : IE_Pressed;
-	const bool bUsed = ViewportClient && ViewportClient->InputKey(FInputKeyEventArgs(this,
-											 static_cast<int32>(InKeyEvent.GetUserIndex()), InKeyEvent.GetKey(), Event));
+	const bool bUsed =
+		ViewportClient && ViewportClient->InputKey(FInputKeyEventArgs(
+							  this, static_cast<int32>(InKeyEvent.GetUserIndex()), InKeyEvent.GetKey(), Event));
 	return bUsed ? FReply::Handled() : FReply::Unhandled();
 }
 
@@ -85,8 +86,8 @@ FReply FSceneViewport::OnKeyUp(const FGeometry&, const FKeyEvent& InKeyEvent)
 {
 	KeyStateMap.Add(InKeyEvent.GetKey(), false);
 	const bool bUsed =
-		ViewportClient && ViewportClient->InputKey(FInputKeyEventArgs(this,
-							  static_cast<int32>(InKeyEvent.GetUserIndex()), InKeyEvent.GetKey(), IE_Released));
+		ViewportClient && ViewportClient->InputKey(FInputKeyEventArgs(
+							  this, static_cast<int32>(InKeyEvent.GetUserIndex()), InKeyEvent.GetKey(), IE_Released));
 	return bUsed ? FReply::Handled() : FReply::Unhandled();
 }
 
