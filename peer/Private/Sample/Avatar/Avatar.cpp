@@ -71,17 +71,17 @@ FProjectObject MakeAvatar(const FFigure& Figure)
 		Assembly.AddMaterial(FLook("Lashes", Kind::Matte).Color(0.010f, 0.008f, 0.007f).Roughness(0.8f).Specular(0.2f));
 	const int Eyes =
 		Assembly.AddMaterial(FLook("Eyes", Kind::Shiny).ColorMap(IrisColor).Roughness(0.08f).Specular(0.6f));
-	const int Hair = Assembly.AddMaterial(FLook("Hair", Kind::Silk)
+	const int Hair = Assembly.AddMaterial(FLook("Hair", Kind::Fur)
 											  .ColorMap(HairColor)
 											  .NormalMap(HairNormal, 0.8f)
-											  .Roughness(0.42f)
-											  .Specular(0.45f)
+											  .Roughness(0.45f)
+											  .Specular(0.3f)
 											  .Place(4, 1));
-	const int Bun = Assembly.AddMaterial(FLook("Bun", Kind::Silk)
+	const int Bun = Assembly.AddMaterial(FLook("Bun", Kind::Fur)
 											 .ColorMap(HairColor)
 											 .NormalMap(HairNormal, 0.8f)
-											 .Roughness(0.42f)
-											 .Specular(0.45f)
+											 .Roughness(0.45f)
+											 .Specular(0.3f)
 											 .Place(1.5f, 1.5f, 8));
 
 	FUnwrappedSkin Unwrapped = UnwrapSkin(Figure);

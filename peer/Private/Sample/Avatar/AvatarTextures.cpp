@@ -34,8 +34,8 @@ float Strands(float U, float V)
 
 FTexture MakeSkinColor()
 {
-	const FVec3 Tone{0.868f, 0.694f, 0.588f};
-	const FVec3 Rosy{0.850f, 0.560f, 0.500f};
+	const FVec3 Tone{0.890f, 0.742f, 0.655f};
+	const FVec3 Rosy{0.868f, 0.610f, 0.560f};
 	const FVec3 Shadow{0.600f, 0.420f, 0.370f};
 	return FImage::Make(1024, 1024,
 		[&](float U, float V)

@@ -102,9 +102,8 @@ void FGarmentPieces::AddSkirt(const FGarmentMaterials& Materials)
 			}
 			const int First = Width / 2 + G * Width;
 			const bool bMiddle = G == 2 || G == 5;
-			AddHanging(bFront ? "Dress/Skirt Front" : "Dress/Skirt Back",
-				bMiddle ? Materials.Herringbone : Materials.Bias, EMover::Skirt,
-				{First, First + Width, 0, Last - LaceRows - BandRows});
+			AddHanging(bFront ? "Dress/Skirt Front" : "Dress/Skirt Back", bMiddle ? Materials.Skirt : Materials.Bias,
+				EMover::Skirt, {First, First + Width, 0, Last - LaceRows - BandRows});
 		}
 	}
 	AddBand(

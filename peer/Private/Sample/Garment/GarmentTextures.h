@@ -10,7 +10,7 @@ namespace Zef::Peer
 /** Keys of the garments' materials. */
 struct FGarmentMaterials
 {
-	int Herringbone, Bias, Satin, Velvet, Brocade, Lace, Pearl, Label, Organza, Sequins, Gem, Setting;
+	int Herringbone, Skirt, Bias, Satin, Velvet, Brocade, Lace, Pearl, Label, Organza, Sequins, Gem, Setting;
 };
 FGarmentMaterials AddGarmentMaterials(FAssembly& Assembly);
 

@@ -16,10 +16,10 @@ namespace
 constexpr int FirstKey = 300;
 constexpr int Translucent = 1;
 // On the floor around the figure, who looks along +X: lamp and pouf to her left, table and plant to her right.
-constexpr FVec3 PoufPlace{-14, -70, 0};
-constexpr FVec3 LampPlace{-44, -62, 0};
-constexpr FVec3 TablePlace{-16, 62, 0};
-constexpr FVec3 PlantPlace{-52, 78, 0};
+constexpr FVec3 PoufPlace{-14, -66, 0};
+constexpr FVec3 LampPlace{-44, -58, 0};
+constexpr FVec3 TablePlace{-14, 59, 0};
+constexpr FVec3 PlantPlace{-50, 72, 0};
 
 FTriangleMesh MakeBox(const FVec3& Center, const FVec3& HalfSize, float Degrees)
 {
