@@ -85,7 +85,7 @@ public:
 	static TResult<std::unique_ptr<FClientEndpoint>> OpenEndpoint(
 		const std::string& Endpoint, std::shared_ptr<IRecordFactory> Factory, const FClientOptions& Options = {});
 
-	/** Says good-bye and stops the thread; nothing is delivered afterwards. Not from inside Poll. */
+	/** Closes the connection and stops the thread; nothing is delivered afterwards. Not from inside Poll. */
 	~FClientEndpoint();
 
 	FClientEndpoint(const FClientEndpoint&) = delete;

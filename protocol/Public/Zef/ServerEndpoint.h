@@ -99,7 +99,7 @@ public:
 	static TResult<std::unique_ptr<FServerEndpoint>> OpenEndpoint(
 		const std::string& Endpoint, const FServerOptions& Options = {});
 
-	/** Closes: clients are told, the socket file goes. */
+	/** Closes all connections; what is not yet out is dropped, and the socket file goes. */
 	~FServerEndpoint();
 
 	FServerEndpoint(const FServerEndpoint&) = delete;
