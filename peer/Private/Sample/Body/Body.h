@@ -19,7 +19,7 @@ FFieldPtr MakeHead();
 /** All of it. */
 FFieldPtr MakeBody();
 
-/** Its skin: about 80,000 triangles, finer on face and hands. */
+/** Its skin: about 60,000 triangles, finer on face and hands. */
 FTriangleMesh MakeBodySkin(const IField& Body);
 
 } // namespace Zef::Peer

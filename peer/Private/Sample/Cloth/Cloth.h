@@ -33,7 +33,7 @@ public:
 	bool IsClosed() const { return bClosed; }
 	std::size_t At(int Column, int Row) const { return static_cast<std::size_t>(Row * ColumnCount + Column); }
 
-	/** [Rows * Columns], to be filled before Begin. */
+	/** [Rows * Columns], to be filled before the first step. */
 	std::vector<FVec3> Positions;
 	/** 0: the point goes where it is put; else it moves freely. */
 	std::vector<std::uint8_t> bFree;
