@@ -33,7 +33,7 @@ enum Type
 	YesNoYesAllNoAllCancel,
 	YesNoYesAll,
 };
-}
+} // namespace EAppMsgType
 
 enum class EAppMsgCategory : uint8
 {
