@@ -181,11 +181,32 @@ FEncodedItem EncodeAvailabilityRequest()
 	return Item;
 }
 
-FEncodedItem EncodeJointAnimationRequest(
-	const FObjectTypeInfo& Info, std::shared_ptr<const FJointAnimation> Animation, std::uint32_t PieceBytes)
+namespace
+{
+/** An item of a mesh alone. MakeBody writes the item's table from the builder and the mesh's structure. */
+template <class TMakeBody>
+FEncodedItem EncodeMeshItem(
+	EItem Kind, const std::shared_ptr<const FSurfaceMesh>& Mesh, std::uint32_t PieceBytes, const TMakeBody& MakeBody)
 {
 	FEncodedItem Item;
-	Item.Item = EItem::SendJointAnimation;
+	Item.Item = Kind;
+	{
+		FChunkList Chunks(Item, PieceBytes);
+		AddMesh(Chunks, *Mesh, Mesh);
+	}
+	FBuilder Builder;
+	const auto Structure = WriteMesh(Builder, *Mesh);
+	FinishHeader(Item, Builder, MakeBody(Builder, Structure));
+	return Item;
+}
+
+/** An item of a mesh with its joint sequence; MakeBody takes the sequence's table too. */
+template <class TMakeBody>
+FEncodedItem EncodeAnimationItem(EItem Kind, const std::shared_ptr<const FJointAnimation>& Animation,
+	std::uint32_t PieceBytes, const TMakeBody& MakeBody)
+{
+	FEncodedItem Item;
+	Item.Item = Kind;
 	const auto Sequence = std::make_shared<const FPackedJointSequence>(Pack(Animation->Sequence));
 	{
 		FChunkList Chunks(Item, PieceBytes);
@@ -195,58 +216,44 @@ FEncodedItem EncodeJointAnimationRequest(
 	FBuilder Builder;
 	const auto Mesh = WriteMesh(Builder, Animation->Mesh);
 	const auto Frames = WriteSequence(Builder, *Sequence);
-	FinishHeader(Item, Builder,
-		Wire::CreateJointAnimationRequest(
-			Builder, ToWire(Info.ObjectType), static_cast<std::int32_t>(Info.AnimationKind), Mesh, Frames));
+	FinishHeader(Item, Builder, MakeBody(Builder, Mesh, Frames));
 	return Item;
+}
+} // namespace
+
+FEncodedItem EncodeJointAnimationRequest(
+	const FObjectTypeInfo& Info, std::shared_ptr<const FJointAnimation> Animation, std::uint32_t PieceBytes)
+{
+	return EncodeAnimationItem(EItem::SendJointAnimation, Animation, PieceBytes,
+		[&](FBuilder& Builder, const auto& Mesh, const auto& Frames)
+		{
+			return Wire::CreateJointAnimationRequest(
+				Builder, ToWire(Info.ObjectType), static_cast<std::int32_t>(Info.AnimationKind), Mesh, Frames);
+		});
 }
 
 FEncodedItem EncodeSurfaceMesh(
 	EObjectType ObjectType, std::shared_ptr<const FSurfaceMesh> Mesh, std::uint32_t PieceBytes)
 {
-	FEncodedItem Item;
-	Item.Item = EItem::SurfaceMesh;
-	{
-		FChunkList Chunks(Item, PieceBytes);
-		AddMesh(Chunks, *Mesh, Mesh);
-	}
-	FBuilder Builder;
-	const auto Structure = WriteMesh(Builder, *Mesh);
-	FinishHeader(Item, Builder, Wire::CreateSurfaceMeshReply(Builder, ToWire(ObjectType), Structure));
-	return Item;
+	return EncodeMeshItem(EItem::SurfaceMesh, Mesh, PieceBytes,
+		[&](FBuilder& Builder, const auto& Structure)
+		{ return Wire::CreateSurfaceMeshReply(Builder, ToWire(ObjectType), Structure); });
 }
 
 FEncodedItem EncodeJointAnimation(
 	EObjectType ObjectType, std::shared_ptr<const FJointAnimation> Animation, std::uint32_t PieceBytes)
 {
-	FEncodedItem Item;
-	Item.Item = EItem::JointAnimation;
-	const auto Sequence = std::make_shared<const FPackedJointSequence>(Pack(Animation->Sequence));
-	{
-		FChunkList Chunks(Item, PieceBytes);
-		AddMesh(Chunks, Animation->Mesh, Animation);
-		AddSequence(Chunks, Sequence);
-	}
-	FBuilder Builder;
-	const auto Mesh = WriteMesh(Builder, Animation->Mesh);
-	const auto Frames = WriteSequence(Builder, *Sequence);
-	FinishHeader(Item, Builder, Wire::CreateJointAnimationReply(Builder, ToWire(ObjectType), Mesh, Frames));
-	return Item;
+	return EncodeAnimationItem(EItem::JointAnimation, Animation, PieceBytes,
+		[&](FBuilder& Builder, const auto& Mesh, const auto& Frames)
+		{ return Wire::CreateJointAnimationReply(Builder, ToWire(ObjectType), Mesh, Frames); });
 }
 
 FEncodedItem EncodeSequenceBegin(
 	EObjectType ObjectType, std::shared_ptr<const FSurfaceMesh> Mesh, std::uint32_t PieceBytes)
 {
-	FEncodedItem Item;
-	Item.Item = EItem::SequenceBegin;
-	{
-		FChunkList Chunks(Item, PieceBytes);
-		AddMesh(Chunks, *Mesh, Mesh);
-	}
-	FBuilder Builder;
-	const auto Structure = WriteMesh(Builder, *Mesh);
-	FinishHeader(Item, Builder, Wire::CreateSequenceBeginReply(Builder, ToWire(ObjectType), Structure));
-	return Item;
+	return EncodeMeshItem(EItem::SequenceBegin, Mesh, PieceBytes,
+		[&](FBuilder& Builder, const auto& Structure)
+		{ return Wire::CreateSequenceBeginReply(Builder, ToWire(ObjectType), Structure); });
 }
 
 FEncodedItem EncodeSequenceFrame(
