@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <map>
+#include <string>
+
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
@@ -7,8 +10,29 @@
 namespace
 {
 
+/** For every file that the command reads. */
+void AddUnitOption(CLI::App& Command)
+{
+	static const std::map<std::string, float> Centimetres{
+		{"mm", 0.1f}, {"cm", 1.0f}, {"in", 2.54f}, {"dm", 10.0f}, {"ft", 30.48f}, {"m", 100.0f}};
+	Command
+		.add_option_function<float>(
+			"--unit",
+			[](const float& UnstatedUnit)
+			{
+				Zef::Peer::FModelReaderOptions Options = Zef::Peer::ModelReaderOptions();
+				Options.UnstatedUnit = UnstatedUnit;
+				Zef::Peer::SetModelReaderOptions(Options);
+			},
+			"Unit of the files that state none, such as OBJ: mm, cm, in, dm, ft or m. Without it their size decides "
+			"between m and cm, with a warning")
+		->transform(CLI::CheckedTransformer(Centimetres))
+		->type_name("UNIT");
+}
+
 void AddProjectOptions(CLI::App& Command, FProjectOptions& Options)
 {
+	AddUnitOption(Command);
 	Command.add_option("--garment", Options.Garment, "Model file of the garment; several become one object")
 		->check(CLI::ExistingFile)
 		->allow_extra_args(false)
@@ -89,6 +113,7 @@ int main(int ArgumentCount, char** Arguments)
 	CheckCommand->add_option("--as", CheckAs, "The object that they are to become")
 		->check(CLI::IsMember({"garment", "avatar", "outfit", "prop"}))
 		->capture_default_str();
+	AddUnitOption(*CheckCommand);
 
 	FProjectOptions InfoOptions;
 	CLI::App* InfoCommand = Program.add_subcommand("info", "Print what the sample project, or the named files, hold");

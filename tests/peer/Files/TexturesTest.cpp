@@ -21,6 +21,30 @@ constexpr char File[] = R"({"asset":{"version":"2.0"},"scene":0,"scenes":[{"node
 	"bufferViews":[{"buffer":0,"byteLength":36}],
 	"buffers":[{"byteLength":36,"uri":"data:application/octet-stream;base64,AAAAAAAAAAAAAAAAAACAPwAAAAAAAAAAAAAAAAAAgD8AAAAA"}]})";
 
+std::string FromBase64(const std::string& Text)
+{
+	const std::string Digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+	std::string Bytes;
+	unsigned Bits = 0;
+	int Count = 0;
+	for (const char C : Text)
+	{
+		const std::size_t Digit = Digits.find(C);
+		if (Digit == std::string::npos)
+		{
+			break;
+		}
+		Bits = (Bits << 6) | static_cast<unsigned>(Digit);
+		Count += 6;
+		if (Count >= 8)
+		{
+			Count -= 8;
+			Bytes.push_back(static_cast<char>((Bits >> Count) & 0xff));
+		}
+	}
+	return Bytes;
+}
+
 const FMaterialExpression& Channel(const FMaterial& Material, std::int32_t Key)
 {
 	static const FMaterialExpression None;
@@ -92,4 +116,29 @@ TEST_F(ModelTextures, ArePlacedAsTheTextureTransformSays)
 	EXPECT_EQ(Placement.Scale, (FVec3{2, 3, 1}));
 	EXPECT_NEAR(Placement.Rotation.Z, -0.70710678f, 1e-6f);
 	EXPECT_NEAR(Placement.Rotation.W, 0.70710678f, 1e-6f);
+}
+
+TEST_F(ModelTextures, OfJpegFilesBesideAnObjFileAreRead)
+{
+	// 8 x 8 pixels of about (200, 100, 50).
+	Write("flat.jpg",
+		FromBase64("/9j/4AAQSkZJRgABAQAAAQABAAD/2wBDAAMCAgMCAgMDAwMEAwMEBQgFBQQEBQoHBwYIDAoMDAsKCwsNDhIQDQ4RDg"
+				   "sLEBYQERMUFRUVDA8XGBYUGBIUFRT/2wBDAQMEBAUEBQkFBQkUDQsNFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQU"
+				   "FBQUFBQUFBQUFBQUFBQUFBQUFBQUFBT/wAARCAAIAAgDAREAAhEBAxEB/8QAFAABAAAAAAAAAAAAAAAAAAAABP/EAB"
+				   "QQAQAAAAAAAAAAAAAAAAAAAAD/xAAVAQEBAAAAAAAAAAAAAAAAAAAHCP/EABQRAQAAAAAAAAAAAAAAAAAAAAD/2gAM"
+				   "AwEAAhEDEQA/ACA9SD//2Q=="));
+	Write("m.mtl", "newmtl cloth\nKd 1 1 1\nmap_Kd flat.jpg\n");
+	const FLoadResult Result = LoadObject(EObjectType::Prop,
+		{Write("t.obj",
+			"mtllib m.mtl\nv 0 0 0\nv 1 0 0\nv 0 1 0\nvt 0 0\nvt 1 0\nvt 0 1\nusemtl cloth\nf 1/1 2/2 3/3\n")});
+
+	ASSERT_TRUE(Result.Object) << (Result.Errors.empty() ? "" : Result.Errors[0]);
+	ASSERT_EQ(Result.Object->Mesh.Textures.size(), 1u);
+	const FTexture& Texture = Result.Object->Mesh.Textures[0].second;
+	EXPECT_EQ(Texture.Format, 0);
+	ASSERT_EQ(Texture.Pixels.size(), 8u * 8 * 4);
+	EXPECT_NEAR(Texture.Pixels[0], 200, 3);
+	EXPECT_NEAR(Texture.Pixels[1], 100, 3);
+	EXPECT_NEAR(Texture.Pixels[2], 50, 3);
+	EXPECT_EQ(Texture.Pixels[3], 255);
 }

@@ -143,10 +143,19 @@ void ReadFbxSettings(const aiScene& Scene, FModel& Model)
 	{
 		return;
 	}
-	double Unit = 1;
-	if (Scene.mMetaData->Get("UnitScaleFactor", Unit) && Unit > 1e-6 && Unit < 1e6)
+	// The type of the entry differs between versions of the library, and it is found only under its own.
+	float Unit = 1;
+	if (double Wide = 1; Scene.mMetaData->Get("UnitScaleFactor", Wide))
 	{
-		Model.UnitCentimetres = static_cast<float>(Unit);
+		Unit = static_cast<float>(Wide);
+	}
+	else
+	{
+		Scene.mMetaData->Get("UnitScaleFactor", Unit);
+	}
+	if (Unit > 1e-6f && Unit < 1e6f)
+	{
+		Model.UnitCentimetres = Unit;
 	}
 	FVec3 Columns[3];
 	bool bSeen[3] = {};

@@ -43,15 +43,17 @@ float GuessUnit(const FModel& Model, const std::vector<FPiecePlacement>& Placeme
 	const bool bMetres = std::max({Size.X, Size.Y, Size.Z}) < LargestInMetres;
 	Object.Warnings.push_back(std::string("the file states no unit; it is read in ") +
 							  (bMetres ? "metres, because it measures less than 10 units."
-									   : "centimetres, because it measures 10 units or more."));
+									   : "centimetres, because it measures 10 units or more.") +
+							  " Name its unit with --unit if that is wrong.");
 	return bMetres ? 100.0f : 1.0f;
 }
 
 class FObjectBuilder
 {
 public:
-	FObjectBuilder(FModel& InModel, FReadObject& InObject)
+	FObjectBuilder(FModel& InModel, float InUnstatedUnit, FReadObject& InObject)
 		: Model(InModel)
+		, UnstatedUnit(InUnstatedUnit)
 		, Object(InObject)
 		, NodePlaces(PlaceNodes(Model, RestOf(Model)))
 		, Skeleton(MakeSkeleton(Model, NodePlaces))
@@ -67,8 +69,7 @@ public:
 			Placements.push_back(PlaceVertices(Pose, Piece));
 		}
 		ToEngine = FMatrix34();
-		const float Unit = Model.UnitCentimetres > 0 ? Model.UnitCentimetres : GuessUnit(Model, Placements, Object);
-		ToEngine.AddScaled(Model.Axes, Unit);
+		ToEngine.AddScaled(Model.Axes, CentimetresPerUnit(Placements));
 		const bool bJoints = Type == EObjectType::Avatar && !Skeleton.Nodes.empty();
 		std::vector<std::size_t> Kept;
 		for (std::size_t P = 0; P < Model.Pieces.size(); ++P)
@@ -101,6 +102,15 @@ public:
 	}
 
 private:
+	float CentimetresPerUnit(const std::vector<FPiecePlacement>& Placements)
+	{
+		if (Model.UnitCentimetres > 0)
+		{
+			return Model.UnitCentimetres;
+		}
+		return UnstatedUnit > 0 ? UnstatedUnit : GuessUnit(Model, Placements, Object);
+	}
+
 	/** A place of the file's space as one of the engine's. */
 	FMatrix34 InEngine(const FMatrix34& Place) const { return ToEngine * Place * ToEngine.Inverted(); }
 
@@ -256,6 +266,7 @@ private:
 	}
 
 	FModel& Model;
+	const float UnstatedUnit;
 	FReadObject& Object;
 	std::vector<FMatrix34> NodePlaces;
 	FModelSkeleton Skeleton;
@@ -265,10 +276,10 @@ private:
 
 } // namespace
 
-std::string BuildObject(EObjectType Type, FModel& Model, FReadObject& Object)
+std::string BuildObject(EObjectType Type, FModel& Model, float UnstatedUnit, FReadObject& Object)
 {
 	Object.Warnings = Model.Warnings;
-	return FObjectBuilder(Model, Object).Build(Type);
+	return FObjectBuilder(Model, UnstatedUnit, Object).Build(Type);
 }
 
 } // namespace Zef::Peer

@@ -22,8 +22,9 @@ struct FReadObject
 /**
  * Builds the records. Only an avatar keeps its joints: the editor names the mesh that it makes of every object with
  * joints alike, so two of them would meet under one name. Skins of the other kinds are baked in the bind pose.
+ * @param UnstatedUnit  centimetres per unit of a file that states none; 0: guessed from its size, with a warning
  * @return the reason when nothing can be built, else empty
  */
-std::string BuildObject(EObjectType Type, FModel& Model, FReadObject& Object);
+std::string BuildObject(EObjectType Type, FModel& Model, float UnstatedUnit, FReadObject& Object);
 
 } // namespace Zef::Peer

@@ -85,7 +85,7 @@ void Misbehave(const std::string& Fault)
 	}
 }
 
-FReaderAnswer Read(EObjectType Type, const std::filesystem::path& File)
+FReaderAnswer Read(EObjectType Type, const std::filesystem::path& File, float UnstatedUnit)
 {
 	FReaderAnswer Answer;
 	std::string Extension = File.extension().string();
@@ -95,7 +95,7 @@ FReaderAnswer Read(EObjectType Type, const std::filesystem::path& File)
 	Answer.Error = Extension == ".gltf" || Extension == ".glb" ? ReadGltf(File, Model) : ReadWithAssimp(File, Model);
 	if (Answer.Error.empty())
 	{
-		Answer.Error = BuildObject(Type, Model, Answer.Object);
+		Answer.Error = BuildObject(Type, Model, UnstatedUnit, Answer.Object);
 	}
 	return Answer;
 }
@@ -104,7 +104,7 @@ FReaderAnswer Read(EObjectType Type, const std::filesystem::path& File)
 
 int MaybeRunModelReader(int ArgumentCount, char** Arguments)
 {
-	if (ArgumentCount != 7 || std::strcmp(Arguments[1], ReaderSwitch) != 0)
+	if (ArgumentCount != 8 || std::strcmp(Arguments[1], ReaderSwitch) != 0)
 	{
 		return -1;
 	}
@@ -113,8 +113,9 @@ int MaybeRunModelReader(int ArgumentCount, char** Arguments)
 	FReaderAnswer Answer;
 	try
 	{
-		Misbehave(Arguments[6]);
-		Answer = Read(static_cast<EObjectType>(std::atoi(Arguments[2])), Arguments[3]);
+		Misbehave(Arguments[7]);
+		Answer =
+			Read(static_cast<EObjectType>(std::atoi(Arguments[2])), Arguments[3], std::strtof(Arguments[6], nullptr));
 	}
 	catch (const std::bad_alloc&)
 	{

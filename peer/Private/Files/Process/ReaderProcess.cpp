@@ -31,7 +31,8 @@ int Start(
 	const FModelReaderOptions& Options, EObjectType Type, const std::filesystem::path& File, int WriteEnd, pid_t& Pid)
 {
 	std::string Words[] = {Options.Program, ReaderSwitch, std::to_string(static_cast<int>(Type)), File.string(),
-		std::to_string(Options.MemoryBytes), std::to_string(Options.CpuSeconds), Options.Fault};
+		std::to_string(Options.MemoryBytes), std::to_string(Options.CpuSeconds), std::to_string(Options.UnstatedUnit),
+		Options.Fault};
 	std::vector<char*> Arguments;
 	for (std::string& Word : Words)
 	{

@@ -10,7 +10,10 @@
 namespace Zef::Peer
 {
 
-/** First argument of a reader; after it object type, file, bytes of memory, seconds of CPU, and a fault or nothing. */
+/**
+ * First argument of a reader; after it object type, file, bytes of memory, seconds of CPU, centimetres per unit of a
+ * file that states none, and a fault or nothing.
+ */
 inline constexpr char ReaderSwitch[] = "--zef-read-model";
 
 /** The descriptor on which a reader answers; its standard output belongs to the libraries. */

@@ -17,6 +17,8 @@ struct FModelReaderOptions
 	std::uint64_t MemoryBytes = std::uint64_t(6) << 30;
 	std::uint32_t CpuSeconds = 120;
 	std::uint32_t WallSeconds = 180;
+	/** Centimetres per unit of a file that states none; 0: metres or centimetres, whichever gives a likelier size. */
+	float UnstatedUnit = 0;
 	/** What the reader does in place of reading, for tests: "abort", "hang", "spin", "eat" or "garbage". */
 	std::string Fault;
 };
