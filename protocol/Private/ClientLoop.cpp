@@ -40,6 +40,7 @@ FClientEndpoint::FImpl::FImpl(
 	, Address(std::move(InAddress))
 	, Factory(std::move(InFactory))
 	, Options(InOptions)
+	, Watched(Name, Address.Endpoint.empty() ? Address.PortFile : Address.Endpoint)
 	, Waker(Context)
 {
 }
@@ -415,9 +416,28 @@ void FClientEndpoint::FImpl::OnDropped(const FLinkFault& Fault)
 	Push(std::move(Event));
 }
 
+ELinkState FClientEndpoint::FImpl::StateOf(EPhase Phase)
+{
+	switch (Phase)
+	{
+		case EPhase::Searching:
+			return ELinkState::Searching;
+		case EPhase::Absent:
+			return ELinkState::Absent;
+		case EPhase::Greeting:
+			return ELinkState::Greeting;
+		case EPhase::Up:
+			return ELinkState::Up;
+		case EPhase::Refused:
+			break;
+	}
+	return ELinkState::Refused;
+}
+
 void FClientEndpoint::FImpl::SetPhase(EPhase NewPhase, const std::string& Reason)
 {
 	const EPhase OldPhase = std::exchange(Phase, NewPhase);
+	Watched.Note(StateOf(NewPhase), Reason);
 	if (NewPhase == EPhase::Up)
 	{
 		bLossWaits = false;
@@ -484,6 +504,7 @@ void FClientEndpoint::FImpl::Push(FEvent&& Event)
 	WaitingCost += Event.Cost;
 	Events.push_back(std::move(Event));
 	HasEvents.notify_one();
+	Watched.NoteArrival();
 }
 
 bool FClientEndpoint::FImpl::Send(FEncodedItem&& Item)

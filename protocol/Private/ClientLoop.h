@@ -2,6 +2,7 @@
 /** The thread of an editor's endpoint, and the queues between it and the program. */
 #pragma once
 
+#include "LinkWatch.h"
 #include "Session.h"
 #include "Zef/ClientEndpoint.h"
 
@@ -90,6 +91,8 @@ private:
 	void OnDecoded(FDecodedItem&& Item, double Milliseconds) override;
 	void OnDropped(const FLinkFault& Fault) override;
 
+	static ELinkState StateOf(EPhase Phase);
+
 	// Under the mutex
 	void SetPhase(EPhase NewPhase, const std::string& Reason);
 	void FailHeld(FClock::time_point Until);
@@ -120,6 +123,8 @@ private:
 	bool bDisconnected = false; // the transport is gone; what it still delivered is taken first
 	std::string LastRefusal;
 	std::unique_ptr<FSession> Session;
+
+	FWatchedLink Watched;
 
 	std::atomic<bool> bEnd{false};
 	std::atomic<bool> bStopped{false};
