@@ -13,6 +13,8 @@
 #include "Source/Editor/OpenEditorFixture.h"
 #include "Source/SampleMeshes.h"
 #include "Templates/Casts.h"
+#include "UObject/GarbageCollection.h"
+#include "UObject/UObjectGlobals.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
 #include <gtest/gtest.h>
@@ -124,6 +126,34 @@ TEST_F(PreviewObjects, AnArrivalClearsTheRowSelection)
 	Arrive(TandemObjectType::Garment, MakeRigid());
 
 	EXPECT_EQ(Editor->GetTandemTree()->GetSelectedItems().Num(), 0);
+}
+
+TEST_F(PreviewObjects, ARemovedObjectStaysSelectedUntilTheNextChangeAndHarmsNothing)
+{
+	UPrimitiveComponent* const First = Editor->AddObject(Garment, MakeRigid());
+	UPrimitiveComponent* const Second = Editor->AddObject(Avatar, MakeSkinned());
+	Editor->SetSelectedObjects({First, Second}, true);
+	Editor->RemoveObject(Garment, First);
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS, true);
+
+	EXPECT_EQ(Editor->GetSelectedObjects().Num(), 2);
+	ASSERT_EQ(Editor->GetTandemTree()->GetSelectedItems().Num(), 1);
+	EXPECT_EQ(Editor->GetTandemTree()->GetSelectedItems()[0]->GetPreviewSceneComponent(), Second);
+	Editor->SetSelectedObjects({Second}, true);
+	EXPECT_EQ(Editor->GetSelectedObjects(), TArray<UPrimitiveComponent*>({Second}));
+}
+
+TEST_F(PreviewObjects, ClosingWithARemovedObjectSelectedIsSafe)
+{
+	UPrimitiveComponent* const Component = Editor->AddObject(Garment, MakeRigid());
+	Editor->SetSelectedObjects({Component}, true);
+	Editor->RemoveObject(Garment, Component);
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS, true);
+
+	Close();
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS, true);
+	Tick(0.1);
+	EXPECT_TRUE(Dialogs().Messages().empty());
 }
 
 TEST_F(PreviewObjects, OneEditorIsOpenAtATimeAndClosingLetsTheNextStartAfresh)
