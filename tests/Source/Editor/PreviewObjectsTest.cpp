@@ -132,6 +132,7 @@ TEST_F(PreviewObjects, ARemovedObjectStaysSelectedUntilTheNextChangeAndHarmsNoth
 {
 	UPrimitiveComponent* const First = Editor->AddObject(Garment, MakeRigid());
 	UPrimitiveComponent* const Second = Editor->AddObject(Avatar, MakeSkinned());
+	Editor->GetTandemTree()->Refresh();
 	Editor->SetSelectedObjects({First, Second}, true);
 	Editor->RemoveObject(Garment, First);
 	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS, true);
