@@ -2,6 +2,7 @@
 #include <bit>
 #include <cmath>
 
+#include "Packing/PickVertices.h"
 #include "Zef/Peer/Packing.h"
 
 namespace Zef::Peer
@@ -142,20 +143,6 @@ std::vector<std::uint32_t> FindFirstEqual(const FVertexView& View, std::vector<s
 	return NewIndex;
 }
 
-template <typename T>
-void Pick(std::vector<T>& Values, const std::vector<std::uint32_t>& Kept)
-{
-	if (Values.empty())
-	{
-		return;
-	}
-	for (std::size_t V = 0; V < Kept.size(); ++V)
-	{
-		Values[V] = Values[Kept[V]];
-	}
-	Values.resize(Kept.size());
-}
-
 } // namespace
 
 FKeptVertices WeldVertices(FSurfaceMesh& Mesh)
@@ -177,10 +164,10 @@ FKeptVertices WeldVertices(FSurfaceMesh& Mesh)
 
 		const std::size_t OldCount = Surface.Positions.size();
 		Surface.VertexOffset = static_cast<std::int32_t>(Result.Old.size());
-		Pick(Surface.Positions, Kept);
-		Pick(Surface.Normals, Kept);
-		Pick(Surface.Tangents, Kept);
-		Pick(Surface.UVs, Kept);
+		PickVertices(Surface.Positions, Kept);
+		PickVertices(Surface.Normals, Kept);
+		PickVertices(Surface.Tangents, Kept);
+		PickVertices(Surface.UVs, Kept);
 		for (FSection& Section : Surface.Sections)
 		{
 			for (std::int32_t& Index : Section.Indices)
