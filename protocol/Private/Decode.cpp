@@ -4,6 +4,7 @@
 
 #include <new>
 #include <stdexcept>
+#include <utility>
 
 namespace Zef
 {
@@ -24,6 +25,32 @@ bool IsRequest(EItem Item)
 EDecode FItemDecoder::FImpl::Refuse(FLinkFault&& InFault)
 {
 	Fault = std::move(InFault);
+	DropItem();
+	return EDecode::Refused;
+}
+
+/** Allocates nothing that it needs: there may be no memory for a sentence either, and the code tells enough. */
+EDecode FItemDecoder::FImpl::RefuseForMemory(const char* What)
+{
+	Fault.Code = EFault::OutOfMemory;
+	Fault.Severity = FaultInfo(EFault::OutOfMemory).Severity;
+	Fault.Path.clear();
+	Fault.Message.clear();
+	DropItem();
+	try
+	{
+		Fault.Message = What;
+	}
+	catch (const std::bad_alloc&)
+	{
+		Fault.Message.clear();
+	}
+	return EDecode::Refused;
+}
+
+/** The item is over: its memory is released, and its further pieces are ignored. */
+void FItemDecoder::FImpl::DropItem()
+{
 	FaultNumber = Number;
 	bOpen = false;
 	bIgnored = true;
@@ -35,7 +62,6 @@ EDecode FItemDecoder::FImpl::Refuse(FLinkFault&& InFault)
 	{
 		DropSequence();
 	}
-	return EDecode::Refused;
 }
 
 EDecode FItemDecoder::FImpl::Refuse(EFault Code, std::string Path, std::string Message)
@@ -82,12 +108,22 @@ FLinkFault FItemDecoder::FImpl::Abandon(EFault Code, const std::string& Message)
 
 EDecode FItemDecoder::FImpl::Header(std::uint64_t InNumber, FByteView Bytes)
 {
-	CutOff();
+	try
+	{
+		CutOff();
+	}
+	catch (const std::bad_alloc&)
+	{
+		RefuseForMemory("No memory for the report of a cut-off item.");
+		Truncation = std::exchange(Fault, {});
+		TruncationNumber = Number;
+	}
 	Number = InNumber;
 	Kind = EItem::None;
 	bOpen = false;
 	bIgnored = false;
 	bJointAnimation = false;
+	Structure = FMemoryBudget(Limits.MaxStructureBytes);
 	Payload.Reset();
 	Sink.reset();
 	Joints = {};
@@ -98,11 +134,11 @@ EDecode FItemDecoder::FImpl::Header(std::uint64_t InNumber, FByteView Bytes)
 	}
 	catch (const std::bad_alloc&)
 	{
-		return Refuse(EFault::OutOfMemory, "", "No memory for the header.");
+		return RefuseForMemory("No memory for the header.");
 	}
 	catch (const std::length_error&)
 	{
-		return Refuse(EFault::OutOfMemory, "", "No memory for the header.");
+		return RefuseForMemory("No memory for the header.");
 	}
 }
 
@@ -169,20 +205,36 @@ EDecode FItemDecoder::FImpl::Piece(std::uint64_t InNumber, std::uint64_t Offset,
 	{
 		return EDecode::Ignored;
 	}
-	if (InNumber != Number || !bOpen)
+	try
 	{
-		// One report is enough for all the pieces of an item that is not there.
-		if (InNumber == LastUnexpected)
+		if (InNumber != Number || !bOpen)
 		{
-			return EDecode::Ignored;
+			// One report is enough for all the pieces of an item that is not there.
+			if (InNumber == LastUnexpected)
+			{
+				return EDecode::Ignored;
+			}
+			LastUnexpected = InNumber;
+			Fault = MakeFault(EFault::PieceUnexpected, "",
+				"A piece of item " + std::to_string(InNumber) + " came" +
+					(bOpen ? "; item " + std::to_string(Number) + " is open." : "; no item is open."));
+			FaultNumber = InNumber;
+			return EDecode::Refused;
 		}
-		LastUnexpected = InNumber;
-		Fault = MakeFault(EFault::PieceUnexpected, "",
-			"A piece of item " + std::to_string(InNumber) + " came" +
-				(bOpen ? "; item " + std::to_string(Number) + " is open." : "; no item is open."));
-		FaultNumber = InNumber;
-		return EDecode::Refused;
+		return TakePiece(Offset, Bytes);
 	}
+	catch (const std::bad_alloc&)
+	{
+		return RefuseForMemory("No memory for the arrays.");
+	}
+	catch (const std::length_error&)
+	{
+		return RefuseForMemory("No memory for the arrays.");
+	}
+}
+
+EDecode FItemDecoder::FImpl::TakePiece(std::uint64_t Offset, FByteView Bytes)
+{
 	if (Bytes.size() > Limits.MaxPieceBytes)
 	{
 		return Refuse(EFault::PieceTooLarge, "",
@@ -201,22 +253,11 @@ EDecode FItemDecoder::FImpl::Piece(std::uint64_t InNumber, std::uint64_t Offset,
 			"At most " + std::to_string(Payload.TotalBytes() - Payload.ReceivedBytes()) +
 				" more bytes were expected; " + std::to_string(Bytes.size()) + " came.");
 	}
-	try
+	if (FLinkFault Found = Payload.Take(Bytes))
 	{
-		if (FLinkFault Found = Payload.Take(Bytes))
-		{
-			return Refuse(std::move(Found));
-		}
-		return Payload.IsComplete() ? FinishItem() : EDecode::More;
+		return Refuse(std::move(Found));
 	}
-	catch (const std::bad_alloc&)
-	{
-		return Refuse(EFault::OutOfMemory, "", "No memory for the arrays.");
-	}
-	catch (const std::length_error&)
-	{
-		return Refuse(EFault::OutOfMemory, "", "No memory for the arrays.");
-	}
+	return Payload.IsComplete() ? FinishItem() : EDecode::More;
 }
 
 EDecode FItemDecoder::FImpl::FinishItem()
@@ -224,8 +265,8 @@ EDecode FItemDecoder::FImpl::FinishItem()
 	bOpen = false;
 	if (bJointAnimation)
 	{
-		if (FLinkFault Found = CheckTransformCount(
-				Joints.Tables, Joints.TableOfFrame.data(), Joints.TableOfFrame.size(), TransformCount))
+		if (FLinkFault Found = CheckPoses(
+				Joints.Tables, Joints.TableOfFrame.data(), Joints.TableOfFrame.size(), TransformCount, Limits))
 		{
 			return Refuse(std::move(Found));
 		}

@@ -10,9 +10,10 @@ namespace Zef
 
 namespace
 {
-std::string Shortened(const flatbuffers::String* String, std::size_t Bytes)
+/** What the other end says about itself: read in any case, but fit for one line of a log. */
+std::string Line(const flatbuffers::String* String, std::size_t Bytes)
 {
-	return String != nullptr ? String->str().substr(0, Bytes) : std::string();
+	return String != nullptr ? OneLine(String->string_view(), Bytes) : std::string();
 }
 } // namespace
 
@@ -118,7 +119,7 @@ EDecode FItemDecoder::FImpl::ReadBody(const Wire::Item& Item)
 			const Wire::FaultReport& Report = *Item.body_as_FaultReport();
 			Done.Fault = {static_cast<EFault>(Report.code()),
 				static_cast<EFaultSeverity>(Report.severity() > 2 ? 2 : Report.severity()),
-				Shortened(Report.path(), Limits.MaxPathBytes), Shortened(Report.message(), Limits.MaxPathBytes)};
+				Line(Report.path(), Limits.MaxPathBytes), Line(Report.message(), Limits.MaxPathBytes)};
 			Done.FaultItem = Report.item();
 			return CompleteSmall();
 		}
@@ -136,8 +137,13 @@ EDecode FItemDecoder::FImpl::BeginMesh(
 		return Refuse(EFault::MissingField, Mesh == nullptr ? "/Mesh" : "/Sequence", "The table is absent.");
 	}
 	const EIndexBase IndexBase = Receiver == EReceiver::Editor ? EIndexBase::Surface : EIndexBase::Model;
+	FHeaderReader Reader(Structure);
 	FMeshHeader Header;
-	ReadMesh(*Mesh, Header);
+	if (!Reader.ReadMesh(*Mesh, Header))
+	{
+		Reader.Fault.Path.insert(0, MeshPrefix());
+		return Refuse(std::move(Reader.Fault));
+	}
 	if (FLinkFault Found = CheckStructure(Header.Structure, Header.Counts, IndexBase, Limits))
 	{
 		Found.Path = MeshPrefix() + Found.Path;
@@ -151,7 +157,11 @@ EDecode FItemDecoder::FImpl::BeginMesh(
 	}
 	if (bJointAnimation)
 	{
-		Joints.Tables = ReadTables(*JointTable);
+		if (!Reader.ReadTables(*JointTable, Joints.Tables))
+		{
+			Reader.Fault.Path.insert(0, "/Sequence");
+			return Refuse(std::move(Reader.Fault));
+		}
 		TransformCount = JointTable->transforms();
 		if (FLinkFault Found = CheckSequenceStructure(
 				Joints.Tables, JointTable->frames(), TransformCount, Header.Structure.Joints.size(), Limits))
@@ -223,9 +233,9 @@ EDecode FItemDecoder::FImpl::BeginFrame(const Wire::SequenceFrameReply& Frame)
 	if (PayloadBytes > Limits.MaxItemBytes || Sequence.ArrayBytes + PayloadBytes > Limits.MaxItemBytes)
 	{
 		return Refuse(EFault::OverBudget, Path,
-			"At most " + std::to_string(Limits.MaxItemBytes) +
-				" bytes were expected for the sequence; this frame ends at " +
-				std::to_string(Sequence.ArrayBytes + PayloadBytes) + ".");
+			"At most " + std::to_string(Limits.MaxItemBytes) + " bytes were expected for the sequence; " +
+				std::to_string(Sequence.ArrayBytes) + " are there and " + std::to_string(PayloadBytes) +
+				" more are announced.");
 	}
 	std::vector<FArrayRule> Rules;
 	for (const EArray Array : {EArray::FramePositions, EArray::FrameNormals, EArray::FrameTangents})

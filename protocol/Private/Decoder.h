@@ -16,6 +16,7 @@ public:
 		: Factory(InFactory)
 		, Receiver(InReceiver)
 		, Limits(InLimits)
+		, Structure(InLimits.MaxStructureBytes)
 	{
 	}
 
@@ -33,6 +34,7 @@ public:
 
 private:
 	EDecode ReadHeader(FByteView Bytes);
+	EDecode TakePiece(std::uint64_t Offset, FByteView Bytes);
 	EDecode ReadBody(const Wire::Item& Item);
 	EDecode BeginMesh(EObjectType ObjectType, const Wire::Mesh* Mesh, const Wire::JointSequence* Joints);
 	EDecode BeginFrame(const Wire::SequenceFrameReply& Frame);
@@ -41,6 +43,8 @@ private:
 	EDecode FinishItem();
 	EDecode Refuse(EFault Code, std::string Path, std::string Message);
 	EDecode Refuse(FLinkFault&& InFault);
+	EDecode RefuseForMemory(const char* What);
+	void DropItem();
 	EDecode Ignore();
 	EDecode CompleteSmall();
 	EDecode CheckInfo(std::int32_t ObjectType, std::int32_t Kind, bool bKindNeeded);
@@ -64,6 +68,7 @@ private:
 	std::uint64_t LastUnexpected = ~std::uint64_t(0);
 	std::unique_ptr<IRecordSink> Sink;
 	FPackedJointSequence Joints;
+	FMemoryBudget Structure; // of the current header
 	FPayloadReader Payload;
 	std::uint64_t TransformCount = 0;
 

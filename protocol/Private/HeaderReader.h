@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-/** Reads verified FlatBuffers tables back into the structure of records. */
+/** Reads verified FlatBuffers tables back into the structure of records, within a budget of memory. */
 #pragma once
 
+#include "MemoryBudget.h"
+#include "Zef/Fault.h"
 #include "Zef/Items.h"
 
 #include "tandem_generated.h"
@@ -12,10 +14,38 @@ namespace Zef
 /** The item whose body is of that type; None for a number outside the schema. */
 EItem ItemOf(Wire::Body Body);
 
-/** Structure and counts of a mesh. Text is taken as it is; absent strings are empty, absent transforms the identity. */
-void ReadMesh(const Wire::Mesh& Table, FMeshHeader& OutHeader);
+/**
+ * Copies tables into records. Text is taken as it is; absent strings are empty, absent transforms the identity.
+ *
+ * Many references may name one table or text, so a short header can stand for much memory: each copy is taken from the
+ * budget before it is made.
+ */
+class FHeaderReader
+{
+public:
+	explicit FHeaderReader(FMemoryBudget& InBudget);
 
-/** Layouts of a joint sequence. */
-std::vector<FJointTable> ReadTables(const Wire::JointSequence& Table);
+	/** Structure and counts of a mesh. False when the budget does not hold them: then Fault tells where it ended. */
+	bool ReadMesh(const Wire::Mesh& Table, FMeshHeader& OutHeader);
+
+	/** Layouts of a joint sequence; the same. */
+	bool ReadTables(const Wire::JointSequence& Table, std::vector<FJointTable>& OutTables);
+
+	/** What ended the reading; its path begins at the table that was read. */
+	FLinkFault Fault;
+
+private:
+	template <class TVector>
+	bool Reserve(const TVector* Vector, std::size_t ElementBytes, const char* Name);
+	bool ReadText(const flatbuffers::String* String, std::string& OutText, const char* Name);
+	bool ReadSurface(const Wire::Surface& Table, FSurface& OutSurface, FSurfaceCounts& OutCounts);
+	bool ReadExpression(const Wire::Expression& Table, FMaterialExpression& OutExpression);
+	bool ReadMaterial(const Wire::Material& Table, FMaterial& OutMaterial);
+	/** Both give false, for a return. */
+	bool OverBudget(const char* Name);
+	bool Inside(const char* List, std::size_t Index);
+
+	FMemoryBudget& Budget;
+};
 
 } // namespace Zef

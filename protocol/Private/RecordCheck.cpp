@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ArrayCheck.h"
+#include "MemoryBudget.h"
 #include "SequenceCheck.h"
 #include "Text.h"
+#include "Uniqueness.h"
 
 #include <cmath>
 
@@ -43,6 +45,57 @@ FLinkFault CheckArray(
 	Rule.Bound = Bound;
 	return CheckElements(Rule, Elements, 0, Count);
 }
+
+FLinkFault CheckCount(std::uint64_t Count, std::uint64_t Highest, const std::string& Path)
+{
+	return Count <= Highest
+			   ? FLinkFault{}
+			   : MakeFault(EFault::TooManyElements, Path,
+					 "At most " + std::to_string(Highest) + " were expected; " + std::to_string(Count) + " came.");
+}
+
+FLinkFault CheckLayoutName(const std::string& Name, const std::string& Path, const FLimits& Limits)
+{
+	if (Name.size() > Limits.MaxNameBytes)
+	{
+		return MakeFault(EFault::NameTooLong, Path,
+			"At most " + std::to_string(Limits.MaxNameBytes) + " bytes were expected; " + std::to_string(Name.size()) +
+				" came.");
+	}
+	if (const std::size_t Bad = FindBadUtf8(Name); Bad != std::string::npos)
+	{
+		return MakeFault(EFault::BadText, Path, "UTF-8 was expected; byte " + std::to_string(Bad) + " is not.");
+	}
+	return {};
+}
+
+/** One layout of poses; its names are looked up among the joints of the mesh, and tracks are kept by them. */
+FLinkFault CheckLayout(const FJointTable& Table, const std::string& Path, std::size_t JointCount, const FLimits& Limits)
+{
+	if (FLinkFault Fault = CheckCount(Table.Joints.size(), Limits.MaxJoints, At(Path, "Joints")))
+	{
+		return Fault;
+	}
+	FNameSet Names;
+	Names.Reserve(Table.Joints.size());
+	for (std::size_t Index = 0; Index < Table.Joints.size(); ++Index)
+	{
+		const FJointTable::FEntry& Entry = Table.Joints[Index];
+		if (FLinkFault Fault = CheckLayoutName(Entry.Name, At(At(Path, "Joints", Index), "Name"), Limits))
+		{
+			return Fault;
+		}
+		if (Entry.ParentIndex < -1 ||
+			(Entry.ParentIndex >= 0 && static_cast<std::size_t>(Entry.ParentIndex) >= JointCount))
+		{
+			return MakeFault(EFault::JointTable, At(At(Path, "Joints", Index), "ParentIndex"),
+				"-1 or a joint below " + std::to_string(JointCount) + " was expected; " +
+					std::to_string(Entry.ParentIndex) + " came.");
+		}
+		Names.Add(Entry.Name);
+	}
+	return Names.FirstFault(At(Path, "Joints"));
+}
 } // namespace
 
 FLinkFault CheckMesh(const FSurfaceMesh& Mesh, EIndexBase IndexBase, const FLimits& Limits)
@@ -67,59 +120,58 @@ FLinkFault CheckMesh(const FSurfaceMesh& Mesh, EIndexBase IndexBase, const FLimi
 FLinkFault CheckSequenceStructure(const std::vector<FJointTable>& Tables, std::uint64_t FrameCount,
 	std::uint64_t TransformCount, std::size_t JointCount, const FLimits& Limits)
 {
-	if (FrameCount > Limits.MaxFrames)
+	if (FLinkFault Fault = CheckCount(FrameCount, Limits.MaxFrames, "/Sequence/Frames"))
 	{
-		return MakeFault(EFault::TooManyElements, "/Sequence/Frames",
-			"At most " + std::to_string(Limits.MaxFrames) + " were expected; " + std::to_string(FrameCount) + " came.");
+		return Fault;
 	}
-	if (TransformCount > MaxArrayElements)
+	if (FLinkFault Fault = CheckCount(TransformCount, MaxArrayElements, "/Sequence/Transforms"))
 	{
-		return MakeFault(EFault::TooManyElements, "/Sequence/Transforms",
-			"At most " + std::to_string(MaxArrayElements) + " were expected; " + std::to_string(TransformCount) +
-				" came.");
+		return Fault;
+	}
+	if (FLinkFault Fault = CheckCount(Tables.size(), Limits.MaxEntries, "/Sequence/Tables"))
+	{
+		return Fault;
 	}
 	for (std::size_t Table = 0; Table < Tables.size(); ++Table)
 	{
-		for (std::size_t Index = 0; Index < Tables[Table].Joints.size(); ++Index)
+		if (FLinkFault Fault = CheckLayout(Tables[Table], At("/Sequence", "Tables", Table), JointCount, Limits))
 		{
-			const FJointTable::FEntry& Entry = Tables[Table].Joints[Index];
-			const auto Path = [&](const char* Field)
-			{ return At(At(At("/Sequence", "Tables", Table), "Joints", Index), Field); };
-			if (Entry.Name.size() > Limits.MaxNameBytes)
-			{
-				return MakeFault(EFault::NameTooLong, Path("Name"),
-					"At most " + std::to_string(Limits.MaxNameBytes) + " bytes were expected; " +
-						std::to_string(Entry.Name.size()) + " came.");
-			}
-			if (const std::size_t Bad = FindBadUtf8(Entry.Name); Bad != std::string::npos)
-			{
-				return MakeFault(
-					EFault::BadText, Path("Name"), "UTF-8 was expected; byte " + std::to_string(Bad) + " is not.");
-			}
-			if (Entry.ParentIndex < -1 ||
-				(Entry.ParentIndex >= 0 && static_cast<std::size_t>(Entry.ParentIndex) >= JointCount))
-			{
-				return MakeFault(EFault::JointTable, Path("ParentIndex"),
-					"-1 or a joint below " + std::to_string(JointCount) + " was expected; " +
-						std::to_string(Entry.ParentIndex) + " came.");
-			}
+			return Fault;
 		}
 	}
 	return {};
 }
 
-FLinkFault CheckTransformCount(const std::vector<FJointTable>& Tables, const std::uint32_t* TableOfFrame,
-	std::uint64_t FrameCount, std::uint64_t TransformCount)
+FLinkFault CheckPoses(const std::vector<FJointTable>& Tables, const std::uint32_t* TableOfFrame,
+	std::uint64_t FrameCount, std::uint64_t TransformCount, const FLimits& Limits)
 {
-	std::uint64_t Expected = 0;
+	// What the joints of one frame take in a record, where each pose has names of its own.
+	std::vector<std::uint64_t> FrameBytes;
+	FrameBytes.reserve(Tables.size());
+	for (const FJointTable& Table : Tables)
+	{
+		std::uint64_t& Bytes = FrameBytes.emplace_back(sizeof(FJointSequenceFrame));
+		for (const FJointTable::FEntry& Entry : Table.Joints)
+		{
+			Bytes += sizeof(FJoint) + Entry.Name.size();
+		}
+	}
+	std::uint64_t Transforms = 0;
+	FMemoryBudget Budget(Limits.MaxItemBytes);
 	for (std::uint64_t Frame = 0; Frame < FrameCount; ++Frame)
 	{
-		Expected += Tables[TableOfFrame[Frame]].Joints.size();
+		Transforms += Tables[TableOfFrame[Frame]].Joints.size();
+		if (!Budget.Take(FrameBytes[TableOfFrame[Frame]]))
+		{
+			return MakeFault(EFault::OverBudget, At("/Sequence", "Frames", Frame),
+				"At most " + std::to_string(Limits.MaxItemBytes) +
+					" bytes of memory were expected for the poses; they are used up here.");
+		}
 	}
-	return Expected == TransformCount
+	return Transforms == TransformCount
 			   ? FLinkFault{}
 			   : MakeFault(EFault::CountMismatch, "/Sequence/Transforms",
-					 std::to_string(Expected) + " were expected; " + std::to_string(TransformCount) + " came.");
+					 std::to_string(Transforms) + " were expected; " + std::to_string(TransformCount) + " came.");
 }
 
 FLinkFault CheckJointSequence(const FPackedJointSequence& Sequence, std::size_t JointCount, const FLimits& Limits)
@@ -145,7 +197,7 @@ FLinkFault CheckJointSequence(const FPackedJointSequence& Sequence, std::size_t 
 		return Fault;
 	}
 	if (FLinkFault Fault =
-			CheckTransformCount(Sequence.Tables, Sequence.TableOfFrame.data(), Frames, Sequence.Transforms.size()))
+			CheckPoses(Sequence.Tables, Sequence.TableOfFrame.data(), Frames, Sequence.Transforms.size(), Limits))
 	{
 		return Fault;
 	}

@@ -11,8 +11,11 @@ namespace Zef
 FLinkFault CheckSequenceStructure(const std::vector<FJointTable>& Tables, std::uint64_t FrameCount,
 	std::uint64_t TransformCount, std::size_t JointCount, const FLimits& Limits);
 
-/** Checks that the frames' layouts ask for as many transforms as there are; every layout must be in range. */
-FLinkFault CheckTransformCount(const std::vector<FJointTable>& Tables, const std::uint32_t* TableOfFrame,
-	std::uint64_t FrameCount, std::uint64_t TransformCount);
+/**
+ * Checks that the frames' layouts ask for as many transforms as there are, and that the joints of all frames fit the
+ * budget of an item; every layout must be in range.
+ */
+FLinkFault CheckPoses(const std::vector<FJointTable>& Tables, const std::uint32_t* TableOfFrame,
+	std::uint64_t FrameCount, std::uint64_t TransformCount, const FLimits& Limits);
 
 } // namespace Zef

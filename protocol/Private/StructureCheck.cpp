@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ArrayCheck.h"
+#include "MemoryBudget.h"
 #include "Text.h"
+#include "Uniqueness.h"
 #include "Zef/Check.h"
 
 #include <algorithm>
 #include <cmath>
-#include <unordered_set>
 
 namespace Zef
 {
@@ -93,9 +94,8 @@ public:
 	bool Joints(const FSurfaceMesh& Mesh);
 	bool Influences(const FSurfaceMesh& Mesh, const FMeshCounts& Counts);
 	bool Materials(const FSurfaceMesh& Mesh);
-	bool Material(const FSurfaceMesh& Mesh, const FMaterial& Material, const std::string& Path);
-	bool ChannelScalars(
-		const FSurfaceMesh& Mesh, std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path);
+	bool Material(const FMaterial& Material, const std::string& Path);
+	bool ChannelScalars(std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path);
 	bool Expression(const FMaterialExpression& Expression, const std::string& Path);
 	bool Textures(const FSurfaceMesh& Mesh, const FMeshCounts& Counts);
 
@@ -103,22 +103,17 @@ public:
 	template <class TPairs>
 	bool Keys(const TPairs& Pairs, const std::string& Path)
 	{
-		std::unordered_set<std::int32_t> Seen;
-		for (std::size_t Index = 0; Index < Pairs.size(); ++Index)
-		{
-			if (Refuse(
-					!Seen.insert(Pairs[Index].first).second, EFault::KeyTwice,
-					[&] { return Path + "/" + std::to_string(Index); },
-					[&] { return "Key " + std::to_string(Pairs[Index].first) + " stands in the map already."; }))
-			{
-				return true;
-			}
-		}
-		return false;
+		const std::size_t Twice = FindKeyTwice(Pairs);
+		return Refuse(
+			Twice != std::string::npos, EFault::KeyTwice, [&] { return Path + "/" + std::to_string(Twice); },
+			[&] {
+				return "A key of its own was expected; " + std::to_string(Pairs[Twice].first) + " stands there twice.";
+			});
 	}
 
 private:
 	const FLimits& Limits;
+	std::vector<std::int32_t> TextureKeys; // ascending
 };
 
 bool FStructureCheck::Surfaces(const FSurfaceMesh& Mesh, const FMeshCounts& Counts, EIndexBase IndexBase)
@@ -128,6 +123,7 @@ bool FStructureCheck::Surfaces(const FSurfaceMesh& Mesh, const FMeshCounts& Coun
 		return true;
 	}
 	std::uint64_t Vertices = 0;
+	std::uint64_t Indices = 0;
 	for (std::size_t Index = 0; Index < Mesh.Surfaces.size(); ++Index)
 	{
 		const std::string Path = At("", "Surfaces", Index);
@@ -152,7 +148,13 @@ bool FStructureCheck::Surfaces(const FSurfaceMesh& Mesh, const FMeshCounts& Coun
 			return true;
 		}
 		Vertices = static_cast<std::uint64_t>(Offset) + Counts.Surfaces[Index].Positions;
-		if (Count(Vertices, MaxArrayElements, [&] { return Path + "/Positions"; }))
+		// The editor puts the triangles of all sections into one array.
+		for (const std::uint64_t OfSection : Counts.Surfaces[Index].SectionIndices)
+		{
+			Indices += OfSection;
+		}
+		if (Count(Vertices, MaxArrayElements, [&] { return Path + "/Positions"; }) ||
+			Count(Indices, MaxArrayElements, [&] { return Path + "/Sections"; }))
 		{
 			return true;
 		}
@@ -199,17 +201,14 @@ bool FStructureCheck::Joints(const FSurfaceMesh& Mesh)
 	{
 		return true;
 	}
-	std::unordered_set<std::string> Names;
+	FNameSet Names;
+	Names.Reserve(Mesh.Joints.size());
 	for (std::size_t Index = 0; Index < Mesh.Joints.size(); ++Index)
 	{
 		const FJoint& Joint = Mesh.Joints[Index];
 		const auto Name = [&] { return At(At("", "Joints", Index), "Name"); };
 		const auto Parent = [&] { return At(At("", "Joints", Index), "ParentIndex"); };
 		if (Text(Joint.Name, Limits.MaxNameBytes, Name) ||
-			Refuse(Joint.Name.empty(), EFault::JointName, Name,
-				[] { return std::string("A name was expected; it is empty."); }) ||
-			Refuse(!Names.insert(FoldCase(Joint.Name)).second, EFault::JointName, Name,
-				[&] { return "The name \"" + Joint.Name + "\" is an earlier joint's."; }) ||
 			Refuse(Index > 0 && Joint.ParentIndex == -1, EFault::SecondRoot, Parent,
 				[] { return std::string("Only the first joint has no parent; -1 came."); }) ||
 			Refuse(Joint.ParentIndex < -1 || (Joint.ParentIndex >= 0 && std::size_t(Joint.ParentIndex) >= Index),
@@ -225,8 +224,10 @@ bool FStructureCheck::Joints(const FSurfaceMesh& Mesh)
 		{
 			return true;
 		}
+		Names.Add(Joint.Name);
 	}
-	return false;
+	Fault = Names.FirstFault("/Joints");
+	return static_cast<bool>(Fault);
 }
 
 bool FStructureCheck::Influences(const FSurfaceMesh& Mesh, const FMeshCounts& Counts)
@@ -252,8 +253,8 @@ bool FStructureCheck::Influences(const FSurfaceMesh& Mesh, const FMeshCounts& Co
 
 bool FStructureCheck::Expression(const FMaterialExpression& Expression, const std::string& Path)
 {
-	if (Count(Expression.Scalars.size(), Limits.MaxEntries, [&] { return Path + "/Scalars"; }) ||
-		Count(Expression.Vectors.size(), Limits.MaxEntries, [&] { return Path + "/Vectors"; }) ||
+	if (Count(Expression.Scalars.size(), Limits.MaxMapEntries, [&] { return Path + "/Scalars"; }) ||
+		Count(Expression.Vectors.size(), Limits.MaxMapEntries, [&] { return Path + "/Vectors"; }) ||
 		Keys(Expression.Scalars, Path + "/Scalars") || Keys(Expression.Vectors, Path + "/Vectors") ||
 		Transform(Expression.UVTransform, [&] { return Path + "/UVTransform"; }))
 	{
@@ -279,30 +280,31 @@ bool FStructureCheck::Expression(const FMaterialExpression& Expression, const st
 
 /** The editor reads these scalars without asking whether they are there. */
 bool FStructureCheck::ChannelScalars(
-	const FSurfaceMesh& Mesh, std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path)
+	std::int32_t Channel, const FMaterialExpression& Expression, const std::string& Path)
 {
 	if (Channel < MaterialChannel::Roughness || Channel > MaterialChannel::Opacity)
 	{
 		return false;
 	}
-	const auto HasKey = [](const auto& Map, std::int32_t Key)
-	{ return std::any_of(Map.begin(), Map.end(), [Key](const auto& Entry) { return Entry.first == Key; }); };
 	const auto Missing = [&](std::int32_t Key)
 	{
+		const bool bThere = std::any_of(Expression.Scalars.begin(), Expression.Scalars.end(),
+			[Key](const auto& Entry) { return Entry.first == Key; });
 		return Refuse(
-			!HasKey(Expression.Scalars, Key), EFault::ScalarMissing, [&] { return Path + "/Scalars"; },
+			!bThere, EFault::ScalarMissing, [&] { return Path + "/Scalars"; },
 			[&] { return "Key " + std::to_string(Key) + " was expected; it did not come."; });
 	};
-	return Missing(1) || (HasKey(Mesh.Textures, Expression.TextureId) && Missing(0));
+	const bool bMap = std::binary_search(TextureKeys.begin(), TextureKeys.end(), Expression.TextureId);
+	return Missing(1) || (bMap && Missing(0));
 }
 
-bool FStructureCheck::Material(const FSurfaceMesh& Mesh, const FMaterial& Material, const std::string& Path)
+bool FStructureCheck::Material(const FMaterial& Material, const std::string& Path)
 {
 	if (Text(Material.Name, Limits.MaxNameBytes, [&] { return Path + "/Name"; }) ||
 		Text(Material.SubstanceAssetPath, Limits.MaxPathBytes, [&] { return Path + "/SubstanceAssetPath"; }) ||
 		Text(Material.SubstanceGraphName, Limits.MaxPathBytes, [&] { return Path + "/SubstanceGraphName"; }) ||
 		Transform(Material.UVTransform, [&] { return Path + "/UVTransform"; }) ||
-		Count(Material.Expressions.size(), Limits.MaxEntries, [&] { return Path + "/Expressions"; }) ||
+		Count(Material.Expressions.size(), Limits.MaxMapEntries, [&] { return Path + "/Expressions"; }) ||
 		Keys(Material.Expressions, Path + "/Expressions"))
 	{
 		return true;
@@ -311,7 +313,7 @@ bool FStructureCheck::Material(const FSurfaceMesh& Mesh, const FMaterial& Materi
 	{
 		const auto& [Channel, Value] = Material.Expressions[Index];
 		const std::string Place = At(Path, "Expressions", Index);
-		if (Expression(Value, Place) || ChannelScalars(Mesh, Channel, Value, Place))
+		if (Expression(Value, Place) || ChannelScalars(Channel, Value, Place))
 		{
 			return true;
 		}
@@ -321,14 +323,19 @@ bool FStructureCheck::Material(const FSurfaceMesh& Mesh, const FMaterial& Materi
 
 bool FStructureCheck::Materials(const FSurfaceMesh& Mesh)
 {
-	if (Count(Mesh.Materials.size(), Limits.MaxEntries, [] { return "/Materials"; }) ||
+	if (Count(Mesh.Materials.size(), Limits.MaxMapEntries, [] { return "/Materials"; }) ||
 		Keys(Mesh.Materials, "/Materials"))
 	{
 		return true;
 	}
+	for (const auto& [Key, Texture] : Mesh.Textures)
+	{
+		TextureKeys.push_back(Key);
+	}
+	std::sort(TextureKeys.begin(), TextureKeys.end());
 	for (std::size_t Index = 0; Index < Mesh.Materials.size(); ++Index)
 	{
-		if (Material(Mesh, Mesh.Materials[Index].second, At("", "Materials", Index)))
+		if (Material(Mesh.Materials[Index].second, At("", "Materials", Index)))
 		{
 			return true;
 		}
@@ -338,7 +345,8 @@ bool FStructureCheck::Materials(const FSurfaceMesh& Mesh)
 
 bool FStructureCheck::Textures(const FSurfaceMesh& Mesh, const FMeshCounts& Counts)
 {
-	if (Count(Mesh.Textures.size(), Limits.MaxEntries, [] { return "/Textures"; }) || Keys(Mesh.Textures, "/Textures"))
+	if (Count(Mesh.Textures.size(), Limits.MaxMapEntries, [] { return "/Textures"; }) ||
+		Keys(Mesh.Textures, "/Textures"))
 	{
 		return true;
 	}
@@ -377,6 +385,21 @@ bool FStructureCheck::Textures(const FSurfaceMesh& Mesh, const FMeshCounts& Coun
 	}
 	return false;
 }
+
+/** The arrays, and what an editor makes of them beside their copy. The counts have been held against their limits. */
+bool FitsBudget(const FSurfaceMesh& Mesh, const FMeshCounts& Counts, std::uint64_t Bytes)
+{
+	// Each vertex has an array of influences of its own, each section the numbers of all bones in 16 bits.
+	constexpr std::uint64_t BytesOfInfluences = 16;
+	constexpr std::uint64_t BytesOfBoneNumber = 2;
+	FMemoryBudget Budget(Bytes);
+	bool bFits = Budget.Take(BytesOf(Counts)) && Budget.Take(Counts.FirstWeight, BytesOfInfluences);
+	for (const FSurface& Surface : Mesh.Surfaces)
+	{
+		bFits = bFits && Budget.Take(Surface.Sections.size(), BytesOfBoneNumber * (Mesh.Joints.size() + 1));
+	}
+	return bFits;
+}
 } // namespace
 
 FLinkFault CheckStructure(
@@ -386,11 +409,12 @@ FLinkFault CheckStructure(
 	const bool bRefused = Check.Surfaces(Structure, Counts, IndexBase) || Check.Joints(Structure) ||
 						  Check.Influences(Structure, Counts) || Check.Materials(Structure) ||
 						  Check.Textures(Structure, Counts);
-	if (!bRefused && BytesOf(Counts) > Limits.MaxItemBytes)
+	if (!bRefused && !FitsBudget(Structure, Counts, Limits.MaxItemBytes))
 	{
 		return MakeFault(EFault::OverBudget, "",
 			"At most " + std::to_string(Limits.MaxItemBytes) + " bytes were expected; the arrays have " +
-				std::to_string(BytesOf(Counts)) + ".");
+				std::to_string(BytesOf(Counts)) +
+				", beside the influences and bone maps that an editor makes of them.");
 	}
 	return Check.Fault;
 }

@@ -67,6 +67,31 @@ std::string FoldCase(std::string_view Text)
 	return Folded;
 }
 
+std::string OneLine(std::string_view Text, std::size_t MaxBytes)
+{
+	std::string Line(Text.substr(0, MaxBytes));
+	for (std::size_t From = 0; From < Line.size(); ++From)
+	{
+		const std::size_t Bad = FindBadUtf8(std::string_view(Line).substr(From));
+		if (Bad == std::string::npos)
+		{
+			break;
+		}
+		From += Bad;
+		if (Text.size() > MaxBytes && Line.size() - From < 4)
+		{
+			Line.resize(From);
+			break;
+		}
+		Line[From] = '?';
+	}
+	for (char& Letter : Line)
+	{
+		Letter = (Letter >= 0 && Letter < ' ') || Letter == 0x7f ? '?' : Letter;
+	}
+	return Line;
+}
+
 std::string At(std::string_view Path, std::string_view Name, std::uint64_t Index)
 {
 	return At(Path, Name) + "/" + std::to_string(Index);

@@ -160,6 +160,13 @@ std::vector<FFaultCase> MeaningFaultCases()
 		{"Empty", EFault::JointName, "/Joints/1/Name", Mesh([](FMesh& M) { M.Joints[1].Name.clear(); })},
 		{"TwiceButForCase", EFault::JointName, "/Joints/2/Name", Mesh([](FMesh& M) { M.Joints[2].Name = "sPINE"; })},
 
+		{"None", EFault::JointName, "/Joints/2/Name", Mesh([](FMesh& M) { M.Joints[2].Name = "none"; })},
+		{"TwiceInAPose", EFault::JointName, "/Sequence/Tables/0/Joints/1/Name",
+			Animation([](FAnimation& A)
+				{ A.Sequence.Frames[0].Joints[1].Name = A.Sequence.Frames[1].Joints[1].Name = "SPINE"; })},
+		{"EmptyInAPose", EFault::JointName, "/Sequence/Tables/1/Joints/0/Name",
+			Animation([](FAnimation& A) { A.Sequence.Frames[2].Joints[0].Name.clear(); })},
+
 		{"TooFew", EFault::InfluenceCount, "/VertexInfluences",
 			Mesh([](FMesh& M) { M.VertexInfluences.FirstWeight.pop_back(); })},
 		{"WeightsAlone", EFault::InfluenceCount, "/VertexInfluences",

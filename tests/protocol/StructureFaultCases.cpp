@@ -2,6 +2,7 @@
 #include "FaultCases.h"
 #include "ItemDecoding.h"
 #include "SampleRecords.h"
+#include "Zef/Check.h"
 
 #include <flatbuffers/flatbuffers.h>
 
@@ -54,6 +55,30 @@ Zef::FBytes BareHeader(std::uint8_t BodyType)
 	const flatbuffers::Offset<void> Body(Builder.EndTable(BodyStart));
 	const auto ItemStart = Builder.StartTable();
 	Builder.AddElement<std::uint8_t>(4, BodyType, 0);
+	Builder.AddOffset(6, Body);
+	Builder.FinishSizePrefixed(flatbuffers::Offset<flatbuffers::Table>(Builder.EndTable(ItemStart)));
+	const auto View = Builder.GetBufferSpan();
+	return {View.begin(), View.end()};
+}
+
+/** A short header whose materials are all one table, with one long name. */
+Zef::FBytes SharedMaterialHeader(std::size_t Materials, std::size_t NameBytes)
+{
+	flatbuffers::FlatBufferBuilder Builder;
+	const auto Name = Builder.CreateString(std::string(NameBytes, 'n'));
+	const auto MaterialStart = Builder.StartTable();
+	Builder.AddOffset(8, Name);
+	const flatbuffers::Offset<flatbuffers::Table> Material(Builder.EndTable(MaterialStart));
+	const auto List = Builder.CreateVector(std::vector<flatbuffers::Offset<flatbuffers::Table>>(Materials, Material));
+	const auto MeshStart = Builder.StartTable();
+	Builder.AddOffset(12, List);
+	const flatbuffers::Offset<void> Mesh(Builder.EndTable(MeshStart));
+	const auto BodyStart = Builder.StartTable();
+	Builder.AddElement<std::int32_t>(4, 2, 0);
+	Builder.AddOffset(6, Mesh);
+	const flatbuffers::Offset<void> Body(Builder.EndTable(BodyStart));
+	const auto ItemStart = Builder.StartTable();
+	Builder.AddElement<std::uint8_t>(4, 6, 0);
 	Builder.AddOffset(6, Body);
 	Builder.FinishSizePrefixed(flatbuffers::Offset<flatbuffers::Table>(Builder.EndTable(ItemStart)));
 	const auto View = Builder.GetBufferSpan();
@@ -165,6 +190,27 @@ std::vector<FFaultCase> StructureFaultCases()
 		{"NoSequence", EFault::MissingField, "/Mesh", [] { return Report(BareHeader(7), {}); }},
 		{"Arrays", EFault::OverBudget, "",
 			Mesh(Nothing, With([](Zef::FLimits& Limits) { Limits.MaxItemBytes = 400; }))},
+		{"OneNameForManyMaterials", EFault::OverBudget, "/Materials/254/Name",
+			[] { return Report(SharedMaterialHeader(10000, 1 << 20), {}); }},
+		{"ManyEntriesOfOneTable", EFault::OverBudget, "/Materials",
+			[] { return Report(SharedMaterialHeader(4 << 20, 1), {}); }},
+		{"BoneMapsOfSections", EFault::OverBudget, "",
+			Mesh([](FMesh& M) { M.Surfaces[0].Sections.resize(1000); },
+				With([](Zef::FLimits& Limits) { Limits.MaxItemBytes = 8000; }))},
+		{"InfluencesOfVertices", EFault::OverBudget, "",
+			Mesh(Nothing, With([](Zef::FLimits& Limits) { Limits.MaxItemBytes = 536; }))},
+		{"PosesOfAnAnimation", EFault::OverBudget, "/Sequence/Frames/2",
+			[]
+			{
+				const auto Long = SampleAnimation();
+				for (Zef::FJointSequenceFrame& Frame : Long->Sequence.Frames)
+				{
+					Frame.Joints[0].Name = std::string(500, 'n');
+				}
+				FDecoding Editor(EReceiver::Editor, With([](Zef::FLimits& Limits) { Limits.MaxItemBytes = 1500; }));
+				Editor.Feed(Zef::EncodeJointAnimation(EObjectType::Avatar, Long));
+				return Editor.Decoder.Fault();
+			}},
 		{"Frames", EFault::OverBudget, "/Frames/1",
 			[]
 			{
@@ -222,6 +268,34 @@ std::vector<FFaultCase> StructureFaultCases()
 			}},
 		{"Joints", EFault::TooManyElements, "/Joints",
 			Mesh(Nothing, With([](Zef::FLimits& Limits) { Limits.MaxJoints = 2; }))},
+		{"Materials", EFault::TooManyElements, "/Materials", Mesh([](FMesh& M) { M.Materials.resize(65536); })},
+		{"ScalarsOfAChannel", EFault::TooManyElements, "/Materials/1/Expressions/0/Scalars",
+			Mesh([](FMesh& M) { M.Materials[1].second.Expressions[0].second.Scalars.resize(65536); })},
+		{"IndicesOfAllSections", EFault::TooManyElements, "/Surfaces/1/Sections",
+			[]
+			{
+				const Zef::FSurfaceMesh Cloth = *SampleMesh();
+				Zef::FMeshCounts Counts = Zef::CountsOf(Cloth);
+				Counts.Surfaces[0].SectionIndices[0] = 0x7fffffff;
+				return Zef::CheckStructure(Cloth, Counts, Zef::EIndexBase::Surface);
+			}},
+		{"LayoutsOfPoses", EFault::TooManyElements, "/Sequence/Tables",
+			[]
+			{
+				FDecoding Editor(EReceiver::Editor, With([](Zef::FLimits& Limits) { Limits.MaxEntries = 2; }));
+				const auto Changing = SampleAnimation();
+				Changing->Sequence.Frames.push_back(Changing->Sequence.Frames[0]);
+				Changing->Sequence.Frames.back().Time = 2;
+				Editor.Feed(Zef::EncodeJointAnimation(EObjectType::Avatar, Changing));
+				return Editor.Decoder.Fault();
+			}},
+		{"JointsOfALayout", EFault::TooManyElements, "/Sequence/Tables/0/Joints",
+			[]
+			{
+				Zef::FPackedJointSequence Packed;
+				Packed.Tables.emplace_back().Joints.resize(65536);
+				return Zef::CheckJointSequence(Packed, 1);
+			}},
 		{"Surfaces", EFault::TooManyElements, "/Surfaces",
 			Mesh(Nothing, With([](Zef::FLimits& Limits) { Limits.MaxEntries = 1; }))},
 		{"PosesOfAnAnimation", EFault::TooManyElements, "/Sequence/Frames",

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <map>
 #include <mutex>
+#include <new>
 #include <utility>
 
 namespace Zef
@@ -50,8 +51,8 @@ public:
 		return Array;
 	}
 
-	/** Stores an array that is no longer needed. */
-	void Give(TArray&& Array)
+	/** Stores an array that is no longer needed; releases it when there is no memory for the note of it. */
+	void Give(TArray&& Array) noexcept
 	{
 		const std::size_t Capacity = TOps::Capacity(Array);
 		if (Capacity * TOps::ElementBytes < SmallestPooledBytes)
@@ -59,7 +60,14 @@ public:
 			return;
 		}
 		const std::lock_guard Lock(Mutex);
-		Free.emplace(Capacity, FEntry{std::move(Array), Round});
+		try
+		{
+			Free.emplace(Capacity, FEntry{std::move(Array), Round});
+		}
+		catch (const std::bad_alloc&)
+		{
+			Array = TArray();
+		}
 	}
 
 	/** A further item begins: releases what has not been of use for long. */

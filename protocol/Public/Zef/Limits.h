@@ -14,10 +14,15 @@ namespace Zef
  */
 struct FLimits
 {
-	/** Bytes of all arrays of one item together; of all frames together for a mesh sequence. */
+	/**
+	 * Bytes of all arrays of one item together, and of what they become in an editor; of all frames together for a mesh
+	 * sequence.
+	 */
 	std::uint64_t MaxItemBytes = std::uint64_t(8) << 30;
 	/** Bytes of an item's header: names, joints, materials and counts. */
 	std::uint32_t MaxHeaderBytes = 32u << 20;
+	/** Bytes that the names, joints, materials and counts of a header may become in memory: a table may be shared. */
+	std::uint64_t MaxStructureBytes = std::uint64_t(256) << 20;
 	/** Bytes of one piece on arrival; a longer message part closes the connection. */
 	std::uint32_t MaxPieceBytes = 4u << 20;
 	/** Bytes of pieces that the other end may have under way before it hears that they were taken. */
@@ -28,8 +33,11 @@ struct FLimits
 	std::uint32_t MaxPathBytes = 4096;
 	/** Bone indices are 16 bits wide in the editor. */
 	std::uint32_t MaxJoints = 65535;
-	/** Entries of one list: surfaces, sections of a surface, materials, textures. */
+	/** Entries of one list: surfaces, sections of a surface, layouts of poses. */
 	std::uint32_t MaxEntries = 1u << 20;
+	/** Entries of one map: materials, textures, channels, scalars, vectors. Material slots are 16 bits wide in the
+	 * editor. */
+	std::uint32_t MaxMapEntries = 65535;
 	/** Frames of one animation. */
 	std::uint32_t MaxFrames = 1u << 24;
 	/** Pixels along one side of a texture. */
