@@ -3,6 +3,7 @@
 
 #include "AssetViewerSettings.h"
 #include "Components/DirectionalLightComponent.h"
+#include "Host/Scene.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/UnrealType.h"
 #include "UnrealClient.h"
@@ -59,20 +60,38 @@ FAdvancedPreviewScene::~FAdvancedPreviewScene()
 bool FAdvancedPreviewScene::HandleViewportInput(
 	FViewport* InViewport, FInputDeviceId, FKey Key, float Delta, float, int32, bool)
 {
-	if (!InViewport || Key != EKeys::MouseX)
+	const bool bAcross = Key == EKeys::MouseX;
+	if (!InViewport || (!bAcross && Key != EKeys::MouseY))
 	{
 		return false;
 	}
 	if (InViewport->KeyState(EKeys::L))
 	{
 		FRotator Direction = GetLightDirection();
-		Direction.Yaw += Delta * DegreesPerPixel;
+		if (bAcross)
+		{
+			Direction.Yaw += Delta * DegreesPerPixel;
+		}
+		else
+		{
+			Direction.Pitch = FMath::Clamp(Direction.Pitch + Delta * DegreesPerPixel, -90.0, 90.0);
+		}
 		SetLightDirection(Direction);
+		// The profile is what the next change of a setting is applied from.
+		UAssetViewerSettings* const Settings = UAssetViewerSettings::Get();
+		if (Settings->Profiles.IsValidIndex(CurrentProfileIndex))
+		{
+			Settings->Profiles[CurrentProfileIndex].DirectionalLightRotation = Direction;
+		}
 		return true;
 	}
 	if (InViewport->KeyState(EKeys::K))
 	{
-		SkyRotation = static_cast<float>(FRotator::ClampAxis(SkyRotation + Delta * DegreesPerPixel));
+		if (bAcross)
+		{
+			SkyRotation = static_cast<float>(FRotator::ClampAxis(SkyRotation + Delta * DegreesPerPixel));
+			ShowSurroundings();
+		}
 		return true;
 	}
 	return false;
@@ -143,6 +162,24 @@ void FAdvancedPreviewScene::ApplyProfile()
 	SetLightDirection(Profile.DirectionalLightRotation);
 	SetLightBrightness(Profile.DirectionalLightIntensity);
 	SetSkyBrightness(Profile.bUseSkyLighting ? Profile.SkyLightIntensity : 0.0f);
+	ShowSurroundings();
+}
+
+void FAdvancedPreviewScene::ShowSurroundings()
+{
+	const TArray<FPreviewSceneProfile>& Profiles = UAssetViewerSettings::Get()->Profiles;
+	Host::FScene* const Scene = Host::FScene::Of(GetWorld());
+	if (Scene && Profiles.IsValidIndex(CurrentProfileIndex))
+	{
+		const FPreviewSceneProfile& Profile = Profiles[CurrentProfileIndex];
+		Scene->SetSurroundings({Profile.bShowFloor, FloorOffset, Profile.bShowEnvironment, SkyRotation});
+	}
+}
+
+void FAdvancedPreviewScene::SetFloorOffset(const float InFloorOffset)
+{
+	FloorOffset = InFloorOffset;
+	ShowSurroundings();
 }
 
 void FAdvancedPreviewScene::OnSettingsChanged(const FName&)

@@ -26,7 +26,7 @@ public:
 	int32 GetCurrentProfileIndex() const { return CurrentProfileIndex; }
 	/** An index outside the profiles changes nothing. */
 	void SetProfileIndex(const int32 InProfileIndex);
-	void SetFloorOffset(const float InFloorOffset) { FloorOffset = InFloorOffset; }
+	void SetFloorOffset(const float InFloorOffset);
 	float GetFloorOffset() const { return FloorOffset; }
 	/** Yaw of the sky, degrees 0..360. */
 	float GetSkyRotation() const { return SkyRotation; }
@@ -37,6 +37,8 @@ public:
 
 private:
 	void ApplyProfile();
+	/** Tells the scene what the profile shows around its objects. */
+	void ShowSurroundings();
 	void OnSettingsChanged(const FName& PropertyName);
 
 	int32 CurrentProfileIndex = 0;

@@ -3,8 +3,38 @@
 #include "Components/PrimitiveComponent.h"
 
 #include "Engine/World.h"
-#include "SceneInterface.h"
+#include "Host/Scene.h"
+#include "Host/SelectionQuery.h"
 #include "Materials/MaterialInterface.h"
+
+namespace
+{
+Host::FSelectionQuery SelectionQuery = nullptr;
+}
+
+void Host::SetSelectionQuery(FSelectionQuery Query)
+{
+	SelectionQuery = Query;
+}
+
+bool UPrimitiveComponent::IsComponentIndividuallySelected() const
+{
+	return SelectionQuery && SelectionQuery(*this);
+}
+
+bool UPrimitiveComponent::ShouldRenderSelected() const
+{
+	return SelectionOverrideDelegate.IsBound() ? SelectionOverrideDelegate.Execute(this)
+											   : IsComponentIndividuallySelected();
+}
+
+void UPrimitiveComponent::PushSelectionToProxy()
+{
+	if (Host::FScene* const Scene = Host::FScene::Of(GetWorld()))
+	{
+		Scene->UpdateSelection();
+	}
+}
 
 UMaterialInterface* UPrimitiveComponent::GetMaterial(int32) const
 {

@@ -70,6 +70,15 @@ void FScene::RefreshAll()
 	}
 }
 
+void FScene::SetSurroundings(const FSceneSurroundings& NewSurroundings)
+{
+	if (Surroundings != NewSurroundings)
+	{
+		Surroundings = NewSurroundings;
+		++Revision;
+	}
+}
+
 FScene::FPrimitive* FScene::Find(const UActorComponent* Component)
 {
 	return Primitives.FindByPredicate([&](const FPrimitive& Entry) { return Entry.Component == Component; });

@@ -34,6 +34,16 @@ public:
 	bool IsA(const HHitProxyType* TestType) const;
 };
 
+/** Whoever collects the hit proxies of a picture that is drawn for them alone. */
+class FHitProxyConsumer
+{
+public:
+	virtual ~FHitProxyConsumer() = default;
+
+	/** Takes the proxy over. */
+	virtual void AddHitProxy(HHitProxy* HitProxy) = 0;
+};
+
 /** Stands in the class body of a hit proxy that derives from another. */
 #define DECLARE_HIT_PROXY()                                                                                            \
 public:                                                                                                                \

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Engine/EngineBaseTypes.h"
 
 enum EShowFlagInitMode
 {
@@ -14,6 +15,11 @@ enum EShowFlagInitMode
 struct FEngineShowFlags
 {
 	uint32 Grid : 1;
+	uint32 Pivot : 1;
+	/** A line around what is selected. */
+	uint32 SelectionOutline : 1;
+	/** The edges of the triangles in place of their faces. */
+	uint32 Wireframe : 1;
 	uint32 Lighting : 1;
 	uint32 PostProcessing : 1;
 	uint32 Bloom : 1;
@@ -21,10 +27,13 @@ struct FEngineShowFlags
 	uint32 AntiAliasing : 1;
 	uint32 DynamicShadows : 1;
 
-	/** Everything on; the grid only in an editor. */
+	/** Everything on but the wireframe; grid, pivot and outline only in an editor. */
 	explicit FEngineShowFlags(EShowFlagInitMode InitMode);
 
 	void SetGrid(bool bShow) { Grid = bShow; }
+	void SetPivot(bool bShow) { Pivot = bShow; }
+	void SetSelectionOutline(bool bShow) { SelectionOutline = bShow; }
+	void SetWireframe(bool bShow) { Wireframe = bShow; }
 	void SetLighting(bool bShow) { Lighting = bShow; }
 	void SetPostProcessing(bool bShow) { PostProcessing = bShow; }
 	void SetBloom(bool bShow) { Bloom = bShow; }
@@ -46,3 +55,6 @@ private:
 		SetDynamicShadows(bOn);
 	}
 };
+
+/** Sets the flags that a view mode stands for. */
+void ApplyViewMode(EViewModeIndex ViewModeIndex, bool bPerspective, FEngineShowFlags& EngineShowFlags);

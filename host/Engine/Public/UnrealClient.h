@@ -3,10 +3,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "HitProxies.h"
 #include "InputCoreTypes.h"
+#include "Templates/UniquePtr.h"
 #include "ViewportClient.h"
-
-class HHitProxy;
 
 namespace Host
 {
@@ -17,11 +17,8 @@ struct FViewportAccess;
 class FViewport
 {
 public:
-	explicit FViewport(FViewportClient* InViewportClient)
-		: ViewportClient(InViewportClient)
-	{
-	}
-	virtual ~FViewport() = default;
+	explicit FViewport(FViewportClient* InViewportClient);
+	virtual ~FViewport();
 
 	FViewport(const FViewport&) = delete;
 	FViewport& operator=(const FViewport&) = delete;
@@ -37,6 +34,22 @@ public:
 	virtual int32 GetMouseX() const = 0;
 	virtual int32 GetMouseY() const = 0;
 
+	/** Whether the pointer is shown over the viewport. */
+	virtual void ShowCursor(bool bVisible) { (void)bVisible; }
+	virtual bool IsCursorVisible() const { return true; }
+	/** Mouse moves come to this viewport, wherever the pointer is. */
+	virtual void CaptureMouse(bool bCapture) { (void)bCapture; }
+	virtual bool HasMouseCapture() const { return false; }
+	virtual bool HasFocus() const { return false; }
+
+	/**
+	 * What the client shows at a point.
+	 *
+	 * @param X, Y  pixels from the top left corner
+	 * @return the viewport's own, valid until the next call or invalidation; null over nothing and outside
+	 */
+	HHitProxy* GetHitProxy(int32 X, int32 Y);
+
 	/** The picture and what lies under its points are out of date. */
 	void Invalidate()
 	{
@@ -44,7 +57,7 @@ public:
 		InvalidateDisplay();
 	}
 	virtual void InvalidateDisplay() { bDisplayDirty = true; }
-	virtual void InvalidateHitProxy() { bHitProxiesDirty = true; }
+	virtual void InvalidateHitProxy();
 
 	/** Asks the client to fill the viewport; the picture is up to date then. */
 	void Draw(bool bShouldPresent = true);
@@ -56,4 +69,10 @@ protected:
 	FIntPoint Size = FIntPoint(0, 0);
 	bool bDisplayDirty = true;
 	bool bHitProxiesDirty = true;
+	/** Whether the picture being drawn was asked for by an invalidation. */
+	bool bDrawingInvalidated = false;
+
+private:
+	TUniquePtr<HHitProxy> HitProxy;
+	FIntPoint HitProxyPoint = FIntPoint(INDEX_NONE, INDEX_NONE);
 };

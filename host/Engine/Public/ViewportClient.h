@@ -28,6 +28,11 @@ public:
 	 */
 	virtual bool InputAxis(FViewport* Viewport, FInputDeviceId InputDevice, FKey Key, float Delta, float DeltaTime,
 		int32 NumSamples = 1, bool bGamepad = false);
+	/** True when the typed character was used. */
+	virtual bool InputChar(FViewport* Viewport, int32 ControllerId, TCHAR Character);
+	/** The viewport got the keyboard, or lost it: keys that are held end then. */
+	virtual void ReceivedFocus(FViewport* Viewport) { (void)Viewport; }
+	virtual void LostFocus(FViewport* Viewport) { (void)Viewport; }
 };
 
 using FCommonViewportClient = FViewportClient;

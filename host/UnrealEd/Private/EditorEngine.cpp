@@ -1,18 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "Editor.h"
 
-#include "Components/ActorComponent.h"
+#include "Components/PrimitiveComponent.h"
 #include "EditorSubsystem.h"
 #include "EditorViewportClient.h"
+#include "EditorViewportCommands.h"
 #include "Engine/World.h"
 #include "Host/EditorState.h"
-#include "Host/ViewportState.h"
+#include "Host/SelectionQuery.h"
+#include "MeshHitTester.h"
+#include "ViewportDrawing.h"
+#include "Templates/Casts.h"
 #include "TickableEditorObject.h"
 #include "TimerManager.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 
 UEditorEngine* GEditor = nullptr;
+
+namespace
+{
+bool IsSelectedInEditor(const UPrimitiveComponent& Component)
+{
+	return GEditor && Host::SelectedComponents().Contains(&Component);
+}
+
+/** The scene draws a selected component with a line around it. */
+void ShowSelection(UActorComponent* Component)
+{
+	if (UPrimitiveComponent* const Primitive = Cast<UPrimitiveComponent>(Component))
+	{
+		Primitive->PushSelectionToProxy();
+	}
+}
+} // namespace
 
 UEditorEngine::UEditorEngine(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -22,6 +43,10 @@ UEditorEngine::UEditorEngine(const FObjectInitializer& ObjectInitializer)
 void UEditorEngine::InitEditor()
 {
 	TimerManager = MakeShared<FTimerManager>();
+	FEditorViewportCommands::Register();
+	static Host::FMeshHitTester HitTester;
+	Host::SetDefaultHitTester(&HitTester);
+	Host::SetSelectionQuery(&IsSelectedInEditor);
 	EditorWorld = UWorld::CreateWorld(EWorldType::Editor, true, FName(TEXT("Untitled")));
 	EditorWorldContext.WorldType = EWorldType::Editor;
 	EditorWorldContext.SetCurrentWorld(EditorWorld);
@@ -30,6 +55,9 @@ void UEditorEngine::InitEditor()
 void UEditorEngine::PreExit()
 {
 	bExiting = true;
+	Host::SetSelectionQuery(nullptr);
+	Host::SetDefaultHitTester(nullptr);
+	FEditorViewportCommands::Unregister();
 	Subsystems.Empty();
 	SelectedComponents.Empty();
 	if (EditorWorld)
@@ -56,7 +84,7 @@ void UEditorEngine::Tick(float DeltaSeconds, bool)
 	}
 	for (FEditorViewportClient* const Client : Clients)
 	{
-		if (AllViewportClients.Contains(Client) && Client->Viewport && Host::IsDisplayDirty(*Client->Viewport))
+		if (AllViewportClients.Contains(Client) && Host::IsToBeDrawn(*Client))
 		{
 			Client->Viewport->Draw();
 		}
@@ -164,7 +192,12 @@ bool UEditorEngine::RedoTransaction()
 
 void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool, bool)
 {
+	const TArray<UActorComponent*> Former = Host::SelectedComponents();
 	SelectedComponents.Empty();
+	for (UActorComponent* const Component : Former)
+	{
+		ShowSelection(Component);
+	}
 	if (bNoteSelectionChange)
 	{
 		++SelectionNotes;
@@ -186,6 +219,7 @@ void UEditorEngine::SelectComponent(UActorComponent* Component, bool bInSelected
 	{
 		SelectedComponents.Remove(Weak);
 	}
+	ShowSelection(Component);
 	if (bNotify)
 	{
 		++SelectionNotes;

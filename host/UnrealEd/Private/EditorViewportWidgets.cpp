@@ -5,6 +5,7 @@
 
 #include "Editor.h"
 #include "EditorViewportClient.h"
+#include "EditorViewportCommands.h"
 #include "Framework/Commands/UICommandList.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SOverlay.h"
@@ -86,13 +87,40 @@ void SEditorViewport::Invalidate()
 	Client->Invalidate();
 }
 
+bool SEditorViewport::IsVisible() const
+{
+	if (!GetVisibility().IsVisible())
+	{
+		return false;
+	}
+	for (TSharedPtr<SWidget> Around = GetParentWidget(); Around.IsValid(); Around = Around->GetParentWidget())
+	{
+		if (!Around->GetVisibility().IsVisible())
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+bool SEditorViewport::IsRealtime() const
+{
+	return Client->IsRealtime();
+}
+
+void SEditorViewport::OnToggleRealtime()
+{
+	Client->SetRealtime(!Client->IsRealtime());
+}
+
 FReply SEditorViewport::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
-	if (CommandList->ProcessCommandBindings(InKeyEvent))
+	const FReply Reply = SceneViewport->OnKeyDown(MyGeometry, InKeyEvent);
+	if (Reply.IsEventHandled())
 	{
-		return FReply::Handled();
+		return Reply;
 	}
-	return SceneViewport->OnKeyDown(MyGeometry, InKeyEvent);
+	return CommandList->ProcessCommandBindings(InKeyEvent) ? FReply::Handled() : FReply::Unhandled();
 }
 
 FReply SEditorViewport::OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
@@ -119,7 +147,35 @@ TSharedPtr<SWidget> SEditorViewport::MakeViewportToolbar()
 	return nullptr;
 }
 
-void SEditorViewport::BindCommands() {}
+void SEditorViewport::BindCommands()
+{
+	const FEditorViewportCommands& Commands = FEditorViewportCommands::Get();
+	const TSharedRef<FEditorViewportClient> ClientRef = Client.ToSharedRef();
+	CommandList->MapAction(Commands.ToggleRealTime, FExecuteAction::CreateSP(this, &SEditorViewport::OnToggleRealtime),
+		FCanExecuteAction(), FIsActionChecked::CreateSP(this, &SEditorViewport::IsRealtime));
+	const auto MapMode = [&](const TSharedPtr<FUICommandInfo>& Command, EViewModeIndex Mode)
+	{
+		CommandList->MapAction(Command, FExecuteAction::CreateSP(ClientRef, &FEditorViewportClient::SetViewMode, Mode),
+			FCanExecuteAction(),
+			FIsActionChecked::CreateSP(ClientRef, &FEditorViewportClient::IsViewModeEnabled, Mode));
+	};
+	MapMode(Commands.WireframeMode, VMI_BrushWireframe);
+	MapMode(Commands.UnlitMode, VMI_Unlit);
+	MapMode(Commands.LitMode, VMI_Lit);
+	const auto MapType = [&](const TSharedPtr<FUICommandInfo>& Command, ELevelViewportType Type)
+	{
+		CommandList->MapAction(Command,
+			FExecuteAction::CreateSP(ClientRef, &FEditorViewportClient::SetViewportType, Type), FCanExecuteAction(),
+			FIsActionChecked::CreateSP(ClientRef, &FEditorViewportClient::IsActiveViewportType, Type));
+	};
+	MapType(Commands.Perspective, LVT_Perspective);
+	MapType(Commands.Front, LVT_OrthoFront);
+	MapType(Commands.Left, LVT_OrthoLeft);
+	MapType(Commands.Top, LVT_OrthoTop);
+	MapType(Commands.Back, LVT_OrthoBack);
+	MapType(Commands.Right, LVT_OrthoRight);
+	MapType(Commands.Bottom, LVT_OrthoBottom);
+}
 
 void SEditorViewport::PopulateViewportOverlays(TSharedRef<SOverlay>) {}
 

@@ -35,6 +35,15 @@ void FViewportCameraTransform::TransitionToLocation(const FVector& InDesiredLoca
 	bInTransition = true;
 }
 
+FMatrix FViewportCameraTransform::ComputeOrbitMatrix() const
+{
+	const FVector Eye = LookAt - ViewRotation.Vector() * FVector::Dist(ViewLocation, LookAt);
+	const FQuat Rotation = ViewRotation.Quaternion();
+	return FMatrix(Rotation.RotateVector(FVector(1.0, 0.0, 0.0)), Rotation.RotateVector(FVector(0.0, 1.0, 0.0)),
+		Rotation.RotateVector(FVector(0.0, 0.0, 1.0)), Eye)
+		.Inverse();
+}
+
 bool FViewportCameraTransform::UpdateTransition()
 {
 	if (!bInTransition)

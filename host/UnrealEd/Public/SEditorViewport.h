@@ -32,8 +32,13 @@ public:
 	TSharedPtr<FSceneViewport> GetSceneViewport() { return SceneViewport; }
 	virtual void Invalidate();
 
+	/** False while this widget or one around it is hidden. */
+	virtual bool IsVisible() const;
+	bool IsRealtime() const;
+	void OnToggleRealtime();
+
 	bool SupportsKeyboardFocus() const override { return true; }
-	/** Goes to the commands first, then to the client. */
+	/** Goes to the client first, then to the commands. */
 	FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 

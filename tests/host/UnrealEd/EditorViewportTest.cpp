@@ -80,14 +80,20 @@ private:
 class FPainter : public Host::IViewPainter
 {
 public:
-	void Paint(FViewport&, const FSceneView& View, const TArray<Host::FViewLine>& Lines) override
+	void Paint(FViewport&, const FSceneView& View, const Host::FViewDrawing& Drawing) override
 	{
+		++Pictures;
 		Scene = View.Family->Scene;
-		LineCount = Lines.Num();
+		Location = View.ViewLocation;
+		Grid = Drawing.Grid;
+		Lines = Drawing.Lines;
 	}
 
+	int Pictures = 0;
 	const FSceneInterface* Scene = nullptr;
-	int LineCount = -1;
+	FVector Location = FVector(0.0, 0.0, 0.0);
+	TOptional<Host::FViewGrid> Grid;
+	TArray<Host::FViewLine> Lines;
 };
 
 class EditorViewport : public FEngineFixture
@@ -156,16 +162,71 @@ TEST_F(EditorViewport, HandsSceneAndGridToWhoeverPaints)
 	Host::SetViewPainter(&Painter);
 	Client->DrawHelper.NumCells = 4;
 	Client->DrawHelper.PerspectiveGridSize = 200.0f;
+	Client->DrawHelper.GridDepthBias = 0.5f;
+	Client->DrawHelper.bDrawPivot = false;
 	Tick(0.1);
 	EXPECT_EQ(Painter.Scene, Scene->GetScene());
-	EXPECT_EQ(Painter.LineCount, 10);
+	ASSERT_TRUE(Painter.Grid.IsSet());
+	EXPECT_EQ(Painter.Grid->NumCells, 4);
+	EXPECT_EQ(Painter.Grid->HalfSize, 200.0);
+	EXPECT_EQ(Painter.Grid->CellSize(), 100.0);
+	EXPECT_EQ(Painter.Grid->Height, -0.5);
+	EXPECT_EQ(Painter.Grid->AxisColor.ToFColor(true), Client->DrawHelper.GridColorAxis);
+	EXPECT_EQ(Painter.Lines.Num(), 0);
 
 	EXPECT_TRUE(Client->IsSetShowGridChecked());
 	Client->SetShowGrid();
 	EXPECT_FALSE(Client->IsSetShowGridChecked());
 	Tick(0.1);
-	EXPECT_EQ(Painter.LineCount, 0);
+	EXPECT_FALSE(Painter.Grid.IsSet());
 	Host::SetViewPainter(nullptr);
+}
+
+TEST_F(EditorViewport, DrawsPivotAndWorldBoxAsLines)
+{
+	FPainter Painter;
+	Host::SetViewPainter(&Painter);
+	Client->SetViewLocation(FVector(-300.0, 0.0, 0.0));
+	Client->DrawHelper.bDrawGrid = false;
+	Client->DrawHelper.PivotSize = 0.1f;
+	Tick(0.1);
+	EXPECT_FALSE(Painter.Grid.IsSet());
+	ASSERT_EQ(Painter.Lines.Num(), 3);
+	EXPECT_NEAR(Painter.Lines[2].End.Z, 30.0, 1e-5);
+	Client->DrawHelper.bDrawPivot = false;
+	Client->DrawHelper.bDrawWorldBox = true;
+	Client->Invalidate();
+	Tick(0.1);
+	EXPECT_EQ(Painter.Lines.Num(), 12);
+	Host::SetViewPainter(nullptr);
+}
+
+// A painter without a place for a whole grid gets its lines.
+TEST_F(EditorViewport, TheGridIsLinesForWhoeverDrawsLineByLine)
+{
+	class FLines : public FPrimitiveDrawInterface
+	{
+	public:
+		using FPrimitiveDrawInterface::FPrimitiveDrawInterface;
+		void DrawLine(const FVector& Start, const FVector& End, const FLinearColor& Color, uint8, float) override
+		{
+			++Count;
+			Axes += Color.ToFColor(true) == FColor(1, 2, 3) && (Start.X == 0.0 || End.Y == 0.0);
+		}
+		int Count = 0;
+		int Axes = 0;
+	};
+	FSceneViewFamily Family;
+	FSceneView View;
+	View.Family = &Family;
+	FLines Lines(&View);
+	FEditorCommonDrawHelper Helper;
+	Helper.bDrawPivot = false;
+	Helper.NumCells = 4;
+	Helper.GridColorAxis = FColor(1, 2, 3);
+	Helper.Draw(&View, &Lines);
+	EXPECT_EQ(Lines.Count, 10);
+	EXPECT_EQ(Lines.Axes, 2);
 }
 
 // A view of 90 by 53.13 degrees: the sphere around the box touches top and bottom, where sin(Angle / 2) = 1 / sqrt(5).

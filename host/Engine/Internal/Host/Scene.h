@@ -9,6 +9,19 @@ class UActorComponent;
 
 namespace Host
 {
+/** What a preview shows around its objects. */
+struct FSceneSurroundings
+{
+	bool bFloor = true;
+	/** cm below what stands in the scene. */
+	float FloorOffset = 0.0f;
+	bool bBackdrop = true;
+	/** Yaw of the light from all sides, degrees. */
+	float SkyRotation = 0.0f;
+
+	bool operator==(const FSceneSurroundings&) const = default;
+};
+
 /**
  * Primitives and lights in the order in which they came. Each change of what is to be seen raises a revision, so that a
  * renderer copies only what is new. Game thread.
@@ -46,6 +59,10 @@ public:
 	void RemoveLight(ULightComponentBase* Light);
 	/** Everything looks different. */
 	void RefreshAll();
+	/** Something was selected, or is no longer; the meshes are as they were. */
+	void UpdateSelection() { ++Revision; }
+	void SetSurroundings(const FSceneSurroundings& NewSurroundings);
+	const FSceneSurroundings& GetSurroundings() const { return Surroundings; }
 
 	const TArray<FPrimitive>& GetPrimitives() const { return Primitives; }
 	const TArray<ULightComponentBase*>& GetLights() const { return Lights; }
@@ -58,6 +75,7 @@ private:
 	UWorld* World; // owns this
 	TArray<FPrimitive> Primitives;
 	TArray<ULightComponentBase*> Lights;
+	FSceneSurroundings Surroundings;
 	uint64 Revision = 0;
 };
 } // namespace Host

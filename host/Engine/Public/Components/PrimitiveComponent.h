@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Components/SceneComponent.h"
+#include "Delegates/DelegateCombinations.h"
 #include "PrimitiveComponent.generated.h"
 
 class UMaterialInterface;
@@ -16,6 +17,17 @@ class UPrimitiveComponent : public USceneComponent
 public:
 	UPROPERTY(EditAnywhere, Category = "Lighting")
 	bool CastShadow = true;
+
+	DECLARE_DELEGATE_RetVal_OneParam(bool, FSelectionOverride, const UPrimitiveComponent*);
+	/** While it is bound, it decides in place of the editor's selection whether the component looks selected. */
+	FSelectionOverride SelectionOverrideDelegate;
+
+	/** Whether the editor's selection holds this component itself. */
+	bool IsComponentIndividuallySelected() const;
+	/** Whether it is drawn with the line around what is selected. */
+	bool ShouldRenderSelected() const;
+	/** The answer of ShouldRenderSelected may have changed. */
+	void PushSelectionToProxy();
 
 	virtual int32 GetNumMaterials() const { return 0; }
 	/** Null for an empty slot and outside the slots. */

@@ -54,8 +54,17 @@ enum ELevelViewportType : int
 	LVT_OrthoYZ = 2,
 	LVT_Perspective = 3,
 	LVT_OrthoFreelook = 4,
-	LVT_MAX = 5,
-	LVT_None = 255
+	LVT_OrthoNegativeXY = 5,
+	LVT_OrthoNegativeXZ = 6,
+	LVT_OrthoNegativeYZ = 7,
+	LVT_MAX = 8,
+	LVT_None = 255,
+	LVT_OrthoTop = LVT_OrthoXY,
+	LVT_OrthoBottom = LVT_OrthoNegativeXY,
+	LVT_OrthoLeft = LVT_OrthoXZ,
+	LVT_OrthoRight = LVT_OrthoNegativeXZ,
+	LVT_OrthoFront = LVT_OrthoNegativeYZ,
+	LVT_OrthoBack = LVT_OrthoYZ
 };
 
 /** How a viewport shades what it shows. */
