@@ -10,6 +10,7 @@
 #include "Host/Notifications.h"
 #include "Host/PackageStore.h"
 #include "Host/Plugins.h"
+#include "Host/ToolMenusRuntime.h"
 #include "Interfaces/IPluginManager.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
@@ -60,6 +61,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
 			return false;
 		}
 	}
+	StartToolMenus();
 	UE_LOG(LogInit, Log, TEXT("The engine is up"));
 	return true;
 }
@@ -97,6 +99,7 @@ void FEngineLoop::Tick(double DeltaSeconds)
 	AdvanceTime(DeltaSeconds);
 	GEditor->Tick(static_cast<float>(DeltaSeconds), false);
 	FSlateNotificationManager::Get().Tick();
+	TickToolMenus();
 	GEngine->ConditionalCollectGarbage();
 }
 
@@ -116,6 +119,7 @@ void FEngineLoop::Exit()
 		GEngine = nullptr;
 	}
 	ResetNotifications();
+	ResetToolMenus();
 	CollectGarbage(RF_NoFlags);
 	for (const FString& Root : MountedRoots)
 	{

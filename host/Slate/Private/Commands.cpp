@@ -39,6 +39,18 @@ const FInputChord& FUICommandInfo::GetDefaultChord(const EMultipleKeyBindingInde
 	return DefaultChords[static_cast<int>(InChordIndex)];
 }
 
+FText FUICommandInfo::GetInputText() const
+{
+	for (const FInputChord& Chord : DefaultChords)
+	{
+		if (Chord.IsValidChord())
+		{
+			return Chord.GetInputText(false);
+		}
+	}
+	return FText::GetEmpty();
+}
+
 bool FUICommandInfo::HasDefaultChord(const FInputChord& InChord) const
 {
 	for (const FInputChord& Chord : DefaultChords)

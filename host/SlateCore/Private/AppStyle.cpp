@@ -2,6 +2,7 @@
 
 #include "Styling/AppStyle.h"
 
+#include "Styling/CoreStyle.h"
 #include "Styling/SlateStyle.h"
 
 namespace
@@ -24,6 +25,12 @@ public:
 	}
 };
 } // namespace
+
+const ISlateStyle& FCoreStyle::Get()
+{
+	static const FSlateStyleSet Style(TEXT("CoreStyle"));
+	return Style;
+}
 
 const ISlateStyle& FAppStyle::Get()
 {

@@ -55,6 +55,11 @@ struct FInputChord
 	{
 	}
 
+	/** What a menu writes, such as "Ctrl+Shift+S"; empty without a key. The long form names the keys in full. */
+	FText GetInputText(const bool bLongDisplayName = true) const;
+	FText GetKeyText(const bool bLongDisplayName = true) const;
+	FText GetModifierText(const FText& ModifierAppender) const;
+
 	bool IsValidChord() const { return Key.IsValid(); }
 
 	bool operator==(const FInputChord& Other) const

@@ -59,6 +59,8 @@ public:
 	EUserInterfaceActionType GetUserInterfaceType() const { return UserInterfaceType; }
 	FName GetBindingContext() const { return BindingContext; }
 	const FInputChord& GetDefaultChord(const EMultipleKeyBindingIndex InChordIndex) const;
+	/** The keys of the command as a menu writes them; empty when it has none. */
+	FText GetInputText() const;
 	/** True when one of the two default chords is that one. */
 	bool HasDefaultChord(const FInputChord& InChord) const;
 

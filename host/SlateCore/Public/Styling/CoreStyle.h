@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+// The style set that widgets fall back to.
+
+#include "Styling/ISlateStyle.h"
+
+class FCoreStyle
+{
+public:
+	static const ISlateStyle& Get();
+
+	FCoreStyle() = delete;
+};
