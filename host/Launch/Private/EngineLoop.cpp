@@ -2,15 +2,19 @@
 #include "Host/EngineLoop.h"
 
 #include "Editor.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Framework/Commands/GenericCommands.h"
+#include "Framework/Docking/TabManager.h"
 #include "Framework/Notifications/NotificationManager.h"
 #include "Host/Clock.h"
 #include "Host/ConfigDirs.h"
+#include "Host/Docking.h"
 #include "Host/Modules.h"
 #include "Host/Notifications.h"
 #include "Host/PackageStore.h"
 #include "Host/Plugins.h"
 #include "Host/ToolMenusRuntime.h"
+#include "Host/Windows.h"
 #include "Interfaces/IPluginManager.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
@@ -44,6 +48,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
 		Exit();
 		return false;
 	}
+	FSlateApplication::Create();
 	FGenericCommands::Register();
 
 	UEditorEngine* const Editor = NewObject<UEditorEngine>(GetTransientPackage(), NAME_None, RF_Transient);
@@ -100,6 +105,7 @@ void FEngineLoop::Tick(double DeltaSeconds)
 	GEditor->Tick(static_cast<float>(DeltaSeconds), false);
 	FSlateNotificationManager::Get().Tick();
 	TickToolMenus();
+	FSlateApplication::Get().Tick();
 	GEngine->ConditionalCollectGarbage();
 }
 
@@ -110,6 +116,7 @@ void FEngineLoop::Exit()
 		return;
 	}
 	bRunning = false;
+	FGlobalTabmanager::Get()->SaveAllVisualState();
 	ShutdownModules();
 	if (GEditor)
 	{
@@ -118,6 +125,9 @@ void FEngineLoop::Exit()
 		GEditor = nullptr;
 		GEngine = nullptr;
 	}
+	FSlateApplication::Shutdown();
+	ResetDocking();
+	ForgetModalAnswers();
 	ResetNotifications();
 	ResetToolMenus();
 	CollectGarbage(RF_NoFlags);

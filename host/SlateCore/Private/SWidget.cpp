@@ -2,6 +2,7 @@
 
 #include "Widgets/SWidget.h"
 
+#include "Application/SlateApplicationBase.h"
 #include "Host/WidgetTree.h"
 #include "Widgets/SLeafWidget.h"
 #include "Widgets/SNullWidget.h"
@@ -16,8 +17,6 @@ public:
 
 	void Construct(const FArguments&) {}
 };
-
-uint64 InvalidationCount = 0;
 } // namespace
 
 TSharedRef<SWidget> SNullWidget::NullWidget = SNew(SNullWidgetContent);
@@ -39,11 +38,39 @@ FReply SWidget::OnKeyUp(const FGeometry&, const FKeyEvent&)
 	return FReply::Unhandled();
 }
 
+FReply SWidget::OnKeyChar(const FGeometry&, const FCharacterEvent&)
+{
+	return FReply::Unhandled();
+}
+
+FReply SWidget::OnFocusReceived(const FGeometry&, const FFocusEvent&)
+{
+	return FReply::Unhandled();
+}
+
+void SWidget::OnFocusLost(const FFocusEvent&) {}
+
+bool SWidget::HasKeyboardFocus() const
+{
+	return FSlateApplicationBase::IsInitialized() &&
+		   FSlateApplicationBase::Get().GetKeyboardFocusedWidget().Get() == this;
+}
+
+bool SWidget::HasFocusedDescendants() const
+{
+	if (!FSlateApplicationBase::IsInitialized())
+	{
+		return false;
+	}
+	const TSharedPtr<SWidget> Focused = FSlateApplicationBase::Get().GetKeyboardFocusedWidget();
+	return Focused.IsValid() && Focused.Get() != this && Host::IsBelow(*Focused, *this);
+}
+
 void SWidget::Invalidate(EInvalidateWidgetReason InvalidateReason)
 {
 	if (InvalidateReason != EInvalidateWidgetReason::None)
 	{
-		++InvalidationCount;
+		Host::FWidgetAccess::CountInvalidation();
 	}
 }
 
@@ -61,35 +88,3 @@ const FName& FTagMetaData::GetTypeId()
 	static const FName Id(TEXT("FTagMetaData"));
 	return Id;
 }
-
-namespace Host
-{
-uint64 WidgetInvalidationCount()
-{
-	return InvalidationCount;
-}
-
-void ForEachWidget(const TSharedRef<SWidget>& Root, TFunctionRef<void(const TSharedRef<SWidget>&)> Visit)
-{
-	Visit(Root);
-	const FChildren& Children = *Root->GetChildren();
-	for (int32 Index = 0; Index < Children.Num(); ++Index)
-	{
-		ForEachWidget(Children.GetChildAt(Index), Visit);
-	}
-}
-
-TArray<TSharedRef<SWidget>> FindWidgetsOfType(const TSharedRef<SWidget>& Root, FName Type)
-{
-	TArray<TSharedRef<SWidget>> Found;
-	ForEachWidget(Root,
-		[&](const TSharedRef<SWidget>& Widget)
-		{
-			if (Widget->GetType() == Type)
-			{
-				Found.Add(Widget);
-			}
-		});
-	return Found;
-}
-} // namespace Host

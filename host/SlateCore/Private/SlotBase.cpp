@@ -2,6 +2,7 @@
 
 #include "SlotBase.h"
 
+#include "Host/WidgetTree.h"
 #include "Layout/Children.h"
 #include "Widgets/SNullWidget.h"
 
@@ -19,6 +20,16 @@ void FSlotBase::AttachWidget(const TSharedRef<SWidget>& InWidget)
 	{
 		InWidget->Parent = Owner->AsShared();
 	}
+	if (Owner)
+	{
+		TellOwner(*Owner);
+	}
+}
+
+void FSlotBase::TellOwner(SWidget& Owner)
+{
+	++Owner.StructureVersion;
+	Host::FWidgetAccess::CountChange();
 }
 
 TSharedRef<SWidget> FSlotBase::GetWidget() const
@@ -34,6 +45,7 @@ TSharedPtr<SWidget> FSlotBase::DetachWidget()
 	if (Detached.IsValid() && Owner && Detached->Parent.HasSameObject(Owner))
 	{
 		Detached->Parent.Reset();
+		TellOwner(*Owner);
 	}
 	return Detached;
 }
@@ -48,4 +60,11 @@ TSharedRef<SWidget> FNoChildren::GetChildAt(int32) const
 {
 	checkf(false, TEXT("A leaf has no children"));
 	return SNullWidget::NullWidget;
+}
+
+const FSlotBase& FNoChildren::GetSlotAt(int32) const
+{
+	static const FSlotBase NoSlot;
+	checkf(false, TEXT("A leaf has no slots"));
+	return NoSlot;
 }

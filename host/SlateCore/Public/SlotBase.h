@@ -27,6 +27,9 @@ public:
 	/** Takes the child out; empty when there was none. */
 	TSharedPtr<SWidget> DetachWidget();
 
+	/** The children of that widget changed. */
+	static void TellOwner(SWidget& Owner);
+
 private:
 	SWidget* Owner = nullptr;
 	TSharedPtr<SWidget> Widget;

@@ -61,3 +61,46 @@ private:
 	uint32 CharacterCode = 0;
 	uint32 KeyCode = 0;
 };
+
+/** A character that was typed. */
+struct FCharacterEvent : public FInputEvent
+{
+	FCharacterEvent(const TCHAR InCharacter, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex,
+		const bool bInIsRepeat)
+		: FInputEvent(InModifierKeys, InUserIndex, bInIsRepeat)
+		, Character(InCharacter)
+	{
+	}
+
+	TCHAR GetCharacter() const { return Character; }
+
+private:
+	TCHAR Character;
+};
+
+enum class EFocusCause : uint8
+{
+	Mouse,
+	Navigation,
+	SetDirectly,
+	Cleared,
+	OtherWidgetLostFocus,
+	WindowActivate,
+};
+
+/** The keyboard focus comes or goes. */
+struct FFocusEvent
+{
+	FFocusEvent(const EFocusCause InCause, const uint32 InUserIndex)
+		: Cause(InCause)
+		, UserIndex(InUserIndex)
+	{
+	}
+
+	EFocusCause GetCause() const { return Cause; }
+	uint32 GetUser() const { return UserIndex; }
+
+private:
+	EFocusCause Cause;
+	uint32 UserIndex;
+};

@@ -16,6 +16,8 @@ public:
 	virtual int32 Num() const = 0;
 	/** @param Index  0..Num() - 1 */
 	virtual TSharedRef<SWidget> GetChildAt(int32 Index) const = 0;
+	/** The slot of that child. */
+	virtual const FSlotBase& GetSlotAt(int32 Index) const = 0;
 };
 
 /** The children of a leaf. */
@@ -26,6 +28,7 @@ public:
 
 	int32 Num() const override { return 0; }
 	TSharedRef<SWidget> GetChildAt(int32 Index) const override;
+	const FSlotBase& GetSlotAt(int32 Index) const override;
 };
 
 /** A list of slots of one type; the panel that holds the list owns the slots. */
@@ -40,6 +43,7 @@ public:
 
 	int32 Num() const override { return Slots.Num(); }
 	TSharedRef<SWidget> GetChildAt(int32 Index) const override { return Slots[Index]->GetWidget(); }
+	const FSlotBase& GetSlotAt(int32 Index) const override { return *Slots[Index]; }
 
 	const SlotType& operator[](int32 Index) const { return *Slots[Index]; }
 	SlotType& operator[](int32 Index) { return *Slots[Index]; }
@@ -58,10 +62,23 @@ public:
 		{
 			Slots.Insert(Slot, Index);
 		}
+		Changed();
 		return *Slot;
 	}
 
-	void RemoveAt(int32 Index) { Slots.RemoveAt(Index); }
+	void RemoveAt(int32 Index)
+	{
+		Slots.RemoveAt(Index);
+		Changed();
+	}
+	/** Gives the slot another place. @param ToIndex  its index afterwards */
+	void Move(int32 FromIndex, int32 ToIndex)
+	{
+		const TSharedRef<SlotType> Slot = Slots[FromIndex];
+		Slots.RemoveAt(FromIndex);
+		Slots.Insert(Slot, ToIndex);
+		Changed();
+	}
 
 	/** Index of the slot that held the widget, or INDEX_NONE. */
 	int32 Remove(const TSharedRef<SWidget>& Widget)
@@ -70,16 +87,22 @@ public:
 		{
 			if (Slots[Index]->GetWidget() == Widget)
 			{
-				Slots.RemoveAt(Index);
+				RemoveAt(Index);
 				return Index;
 			}
 		}
 		return INDEX_NONE;
 	}
 
-	void Empty() { Slots.Empty(); }
+	void Empty()
+	{
+		Slots.Empty();
+		Changed();
+	}
 
 private:
+	void Changed() { FSlotBase::TellOwner(*Owner); }
+
 	SWidget* Owner;
 	TArray<TSharedRef<SlotType>> Slots;
 };
@@ -91,4 +114,5 @@ class TSingleSlotChildren : public FChildren, public SlotType
 public:
 	int32 Num() const override { return 1; }
 	TSharedRef<SWidget> GetChildAt(int32) const override { return SlotType::GetWidget(); }
+	const FSlotBase& GetSlotAt(int32) const override { return *this; }
 };

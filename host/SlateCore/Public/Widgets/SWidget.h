@@ -14,6 +14,11 @@
 #include "Types/SlateEnums.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 
+namespace Host
+{
+struct FWidgetAccess;
+}
+
 /**
  * One node of the retained tree. Made with SNew or SAssignNew only: a widget is shared before Construct runs.
  * Attributes are asked each time that they are read, so a bound one follows its source.
@@ -36,10 +41,17 @@ public:
 	FString GetTypeAsString() const { return Type.ToString(); }
 	FName GetTag() const { return Tag; }
 
-	/** False by default; only a widget that answers true gets key events. */
+	/** False by default; only a widget that answers true gets the keyboard focus. */
 	virtual bool SupportsKeyboardFocus() const { return false; }
+	bool HasKeyboardFocus() const;
+	bool HasFocusedDescendants() const;
+	// Keys go to the widget with the focus first, and from there to its parents until one handles them. Disabled
+	// widgets are left out.
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent);
 	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent);
+	virtual FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent);
+	virtual FReply OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent);
+	virtual void OnFocusLost(const FFocusEvent& InFocusEvent);
 
 	void SetVisibility(TAttribute<EVisibility> InVisibility) { Visibility = InVisibility; }
 	EVisibility GetVisibility() const { return Visibility.Get(); }
@@ -76,6 +88,7 @@ protected:
 
 private:
 	friend class FSlotBase;
+	friend struct Host::FWidgetAccess;
 	template <typename WidgetType, typename RequiredArgsType>
 	friend class TSlateDecl;
 
@@ -86,4 +99,6 @@ private:
 	TAttribute<bool> EnabledState = true;
 	TAttribute<FText> ToolTipText;
 	TArray<TSharedRef<ISlateMetaData>> MetaData;
+	/** Rises when a child comes or goes. */
+	uint32 StructureVersion = 0;
 };

@@ -5,6 +5,8 @@
 
 #include "CoreMinimal.h"
 
+struct FTabSpawnerEntry;
+
 /** A node of the tree that the menu is made of: a parent keeps its children. */
 class FWorkspaceItem : public TSharedFromThis<FWorkspaceItem>
 {
@@ -21,6 +23,8 @@ public:
 	const FText& GetDisplayName() const { return DisplayName; }
 	const TArray<TSharedRef<FWorkspaceItem>>& GetChildItems() const { return ChildItems; }
 	TSharedPtr<FWorkspaceItem> GetParent() const { return ParentItem.Pin(); }
+	/** The tab that the entry opens; empty for a group. */
+	virtual TSharedPtr<FTabSpawnerEntry> AsSpawnerEntry() { return nullptr; }
 
 protected:
 	explicit FWorkspaceItem(const FText& InDisplayName)
@@ -28,8 +32,9 @@ protected:
 	{
 	}
 
-private:
 	FText DisplayName;
+
+private:
 	TArray<TSharedRef<FWorkspaceItem>> ChildItems;
 	TWeakPtr<FWorkspaceItem> ParentItem;
 };
