@@ -16,6 +16,8 @@ public class ZEFTandemEditor : ModuleRules
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
 			"AdvancedPreviewScene",
+			"Analytics",
+			"AnalyticsET",
 			"EditorFramework",
 			"EditorScriptingUtilities",
 			"GeometryCore",

@@ -12,7 +12,12 @@
 #include "Engine/SkeletalMesh.h"
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
+#include "Styling/AppStyle.h"
 #include "UnrealClient.h"
+#include "UObject/UObjectGlobals.h"
+#include "Widgets/SBoxPanel.h"
+#include "Widgets/SOverlay.h"
+#include "Widgets/Text/STextBlock.h"
 
 namespace
 {
@@ -46,13 +51,36 @@ void ShowComponent(
 
 } // namespace
 
+SZEFTandemEditorViewport::~SZEFTandemEditorViewport()
+{
+	FCoreUObjectDelegates::OnObjectPropertyChanged.RemoveAll(this);
+	if (GEditor)
+	{
+		GEditor->OnPreviewFeatureLevelChanged().Remove(FeatureLevelChangedHandle);
+	}
+}
+
 void SZEFTandemEditorViewport::Construct(const FArguments& /*InArgs*/,
 	const TSharedPtr<FZEFPreviewScene>& InPreviewScene, const TSharedPtr<IZEFTandemEditor>& InEditor)
 {
 	PreviewScene = InPreviewScene;
 	EditorInstance = InEditor;
 	PreviewScene->GetWorld()->ChangeFeatureLevel(GEditor->GetEditorWorldContext().World()->GetFeatureLevel());
+	FeatureLevelChangedHandle =
+		GEditor->OnPreviewFeatureLevelChanged().AddRaw(this, &SZEFTandemEditorViewport::OnPreviewFeatureLevelChanged);
 	SEditorViewport::Construct(SEditorViewport::FArguments());
+	FCoreUObjectDelegates::OnObjectPropertyChanged.AddRaw(this, &SZEFTandemEditorViewport::OnObjectPropertyChanged);
+}
+
+void SZEFTandemEditorViewport::OnPreviewFeatureLevelChanged(ERHIFeatureLevel::Type NewFeatureLevel)
+{
+	PreviewScene->GetWorld()->ChangeFeatureLevel(NewFeatureLevel);
+}
+
+void SZEFTandemEditorViewport::OnObjectPropertyChanged(UObject* /*Object*/, FPropertyChangedEvent& /*Event*/)
+{
+	// What was edited may be shown through a material or a mesh: the picture is out of date either way.
+	Invalidate();
 }
 
 TSharedRef<FEditorViewportClient> SZEFTandemEditorViewport::MakeEditorViewportClient()
@@ -64,6 +92,42 @@ TSharedRef<FEditorViewportClient> SZEFTandemEditorViewport::MakeEditorViewportCl
 	ViewportClient->SetViewRotation(InitialViewRotation);
 	ViewportClient->SetRealtime(true);
 	return ViewportClient.ToSharedRef();
+}
+
+void SZEFTandemEditorViewport::PopulateViewportOverlays(TSharedRef<SOverlay> Overlay)
+{
+	OverlayTextBox = SNew(SVerticalBox);
+	Overlay->AddSlot()
+		.VAlign(VAlign_Top)
+		.HAlign(HAlign_Left)
+		.Padding(FMargin(10.0f, 40.0f, 10.0f, 10.0f))[OverlayTextBox.ToSharedRef()];
+	Overlay->AddSlot().VAlign(VAlign_Bottom).HAlign(HAlign_Right).Padding(5.0f)[BuildFeatureLevelWidget()];
+}
+
+void SZEFTandemEditorViewport::PopulateOverlayText(const TArray<FOverlayTextItem>& TextItems)
+{
+	// Asked for every frame, and mostly for what is there: widgets that are made anew must be laid out anew.
+	const auto IsShown = [this](const FOverlayTextItem& Item, int32 Index)
+	{
+		return ShownItems.IsValidIndex(Index) && ShownItems[Index].Style == Item.Style &&
+			   ShownItems[Index].Text.EqualTo(Item.Text);
+	};
+	bool bSame = TextItems.Num() == ShownItems.Num();
+	for (int32 Index = 0; bSame && Index < TextItems.Num(); ++Index)
+	{
+		bSame = IsShown(TextItems[Index], Index);
+	}
+	if (bSame)
+	{
+		return;
+	}
+	ShownItems = TextItems;
+	OverlayTextBox->ClearChildren();
+	for (const FOverlayTextItem& Item : TextItems)
+	{
+		OverlayTextBox->AddSlot().AutoHeight()
+			[SNew(STextBlock).Text(Item.Text).TextStyle(&FAppStyle::GetWidgetStyle<FTextBlockStyle>(Item.Style))];
+	}
 }
 
 USkeletalMeshComponent* SZEFTandemEditorViewport::AddSkeletalMeshComponent(USkeletalMesh* Mesh)

@@ -2,15 +2,20 @@
 /** The 3D view of the preview scene, and the factory of what stands in it. */
 #pragma once
 
+#include "Editor/Widgets/TandemViewport/ZEFOverlayTextItem.h"
+#include "RHIFeatureLevel.h"
 #include "SAssetEditorViewport.h"
 
 class FZEFPreviewScene;
 class FZEFTandemEditorViewportClient;
 class IZEFTandemEditor;
+class SVerticalBox;
 class UDynamicMeshComponent;
 class UMaterialInterface;
 class USkeletalMesh;
 class USkeletalMeshComponent;
+
+struct FPropertyChangedEvent;
 
 namespace UE::Geometry
 {
@@ -22,6 +27,8 @@ class SZEFTandemEditorViewport : public SAssetEditorViewport
 public:
 	SLATE_BEGIN_ARGS(SZEFTandemEditorViewport) {}
 	SLATE_END_ARGS()
+
+	virtual ~SZEFTandemEditorViewport() override;
 
 	void Construct(const FArguments& InArgs, const TSharedPtr<FZEFPreviewScene>& InPreviewScene,
 		const TSharedPtr<IZEFTandemEditor>& InEditor);
@@ -38,11 +45,21 @@ public:
 	UDynamicMeshComponent* AddDynamicMeshComponent(
 		const UE::Geometry::FDynamicMesh3* Mesh, const TArray<UMaterialInterface*>& Materials);
 
+	/** Replaces the lines over the picture. */
+	void PopulateOverlayText(const TArray<FOverlayTextItem>& TextItems);
+
 protected:
 	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
+	virtual void PopulateViewportOverlays(TSharedRef<SOverlay> Overlay) override;
 
 private:
+	void OnPreviewFeatureLevelChanged(ERHIFeatureLevel::Type NewFeatureLevel);
+	void OnObjectPropertyChanged(UObject* Object, FPropertyChangedEvent& Event);
+
 	TSharedPtr<FZEFPreviewScene> PreviewScene;
-	TWeakPtr<IZEFTandemEditor> EditorInstance;
+	TWeakPtr<IZEFTandemEditor> EditorInstance; // which holds this widget
 	TSharedPtr<FZEFTandemEditorViewportClient> ViewportClient;
+	TSharedPtr<SVerticalBox> OverlayTextBox;
+	TArray<FOverlayTextItem> ShownItems;
+	FDelegateHandle FeatureLevelChangedHandle;
 };
