@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 
 #include "Commands.h"
+#include "ConformanceCommand.h"
 #include "Zef/Peer/FilesReader.h"
 
 namespace
@@ -119,6 +120,11 @@ int main(int ArgumentCount, char** Arguments)
 	CLI::App* InfoCommand = Program.add_subcommand("info", "Print what the sample project, or the named files, hold");
 	AddProjectOptions(*InfoCommand, InfoOptions);
 
+	FConformanceOptions ConformanceOptions;
+	CLI::App* const ConformanceCommand = AddConformanceCommand(Program, ConformanceOptions);
+	FFaultsOptions FaultsOptions;
+	CLI::App* const FaultsCommand = AddFaultsCommand(Program, FaultsOptions);
+
 	CLI11_PARSE(Program, ArgumentCount, Arguments);
 	if (*ServeCommand)
 	{
@@ -127,6 +133,14 @@ int main(int ArgumentCount, char** Arguments)
 	if (*CheckCommand)
 	{
 		return Check(CheckFiles, CheckAs);
+	}
+	if (*ConformanceCommand)
+	{
+		return Conformance(ConformanceOptions);
+	}
+	if (*FaultsCommand)
+	{
+		return Faults(FaultsOptions);
 	}
 	return Info(InfoOptions);
 }

@@ -143,7 +143,7 @@ FLinkFault CheckFirstWeight(
 			(bLast && Offsets[Index] != Rule.Total))
 		{
 			return MakeFault(EFault::InfluenceOffsets, PathOf(Rule) + "/" + std::to_string(Index),
-				"Offsets ascend from 0 to the " + std::to_string(Rule.Total) + " weights; after " +
+				"Offsets ascending from 0 to the " + std::to_string(Rule.Total) + " weights were expected; after " +
 					std::to_string(Least) + " came " + std::to_string(Offsets[Index]) + ".");
 		}
 	}

@@ -90,8 +90,8 @@ void FItemDecoder::FImpl::CutOff()
 		return;
 	}
 	Refuse(EFault::Truncated, "",
-		std::string("The next item came when ") + std::to_string(Payload.ReceivedBytes()) + " of " +
-			std::to_string(Payload.TotalBytes()) + " bytes of this " + ToString(Kind) + " were there.");
+		std::to_string(Payload.TotalBytes()) + " bytes of this " + ToString(Kind) +
+			" were expected; the next item came after " + std::to_string(Payload.ReceivedBytes()) + ".");
 	Truncation = Fault;
 	TruncationNumber = FaultNumber;
 }
@@ -114,7 +114,7 @@ EDecode FItemDecoder::FImpl::Header(std::uint64_t InNumber, FByteView Bytes)
 	}
 	catch (const std::bad_alloc&)
 	{
-		RefuseForMemory("No memory for the report of a cut-off item.");
+		RefuseForMemory("Memory for the report was expected; there is none.");
 		Truncation = std::exchange(Fault, {});
 		TruncationNumber = Number;
 	}
@@ -134,11 +134,11 @@ EDecode FItemDecoder::FImpl::Header(std::uint64_t InNumber, FByteView Bytes)
 	}
 	catch (const std::bad_alloc&)
 	{
-		return RefuseForMemory("No memory for the header.");
+		return RefuseForMemory("Memory for the header was expected; there is none.");
 	}
 	catch (const std::length_error&)
 	{
-		return RefuseForMemory("No memory for the header.");
+		return RefuseForMemory("Memory for the header was expected; there is none.");
 	}
 }
 
@@ -154,8 +154,8 @@ EDecode FItemDecoder::FImpl::ReadHeader(FByteView Bytes)
 	flatbuffers::Verifier Verifier(HeaderBytes.data(), HeaderBytes.size(), MaxDepth, MaxTables);
 	if (!Wire::VerifySizePrefixedItemBuffer(Verifier))
 	{
-		return Refuse(
-			EFault::BadTable, "", "The header of " + std::to_string(Bytes.size()) + " bytes is not a valid Item.");
+		return Refuse(EFault::BadTable, "",
+			"A valid Item was expected; the " + std::to_string(Bytes.size()) + " bytes are none.");
 	}
 	const Wire::Item& Item = *Wire::GetSizePrefixedItem(HeaderBytes.data());
 	Kind = ItemOf(Item.body_type());
@@ -168,7 +168,7 @@ EDecode FItemDecoder::FImpl::ReadHeader(FByteView Bytes)
 	}
 	if (Item.body() == nullptr)
 	{
-		return Refuse(EFault::MissingField, "/body", "The table of the item is absent.");
+		return Refuse(EFault::MissingField, "/body", "The table of the item was expected; it is absent.");
 	}
 	PayloadBytes = Item.payload_bytes();
 	Done.Item = Kind;
@@ -216,8 +216,8 @@ EDecode FItemDecoder::FImpl::Piece(std::uint64_t InNumber, std::uint64_t Offset,
 			}
 			LastUnexpected = InNumber;
 			Fault = MakeFault(EFault::PieceUnexpected, "",
-				"A piece of item " + std::to_string(InNumber) + " came" +
-					(bOpen ? "; item " + std::to_string(Number) + " is open." : "; no item is open."));
+				(bOpen ? "A piece of item " + std::to_string(Number) : std::string("No piece")) +
+					" was expected; one of item " + std::to_string(InNumber) + " came.");
 			FaultNumber = InNumber;
 			return EDecode::Refused;
 		}
@@ -225,11 +225,11 @@ EDecode FItemDecoder::FImpl::Piece(std::uint64_t InNumber, std::uint64_t Offset,
 	}
 	catch (const std::bad_alloc&)
 	{
-		return RefuseForMemory("No memory for the arrays.");
+		return RefuseForMemory("Memory for the arrays was expected; there is none.");
 	}
 	catch (const std::length_error&)
 	{
-		return RefuseForMemory("No memory for the arrays.");
+		return RefuseForMemory("Memory for the arrays was expected; there is none.");
 	}
 }
 

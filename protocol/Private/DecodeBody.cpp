@@ -94,8 +94,8 @@ EDecode FItemDecoder::FImpl::ReadBody(const Wire::Item& Item)
 			if (Sequence.bOpen)
 			{
 				Truncation = MakeFault(EFault::SequenceUnexpected, "",
-					"A mesh sequence began when " + std::to_string(Sequence.Frames) +
-						" frames of another one were there and its end was not.");
+					"A frame or the end of the mesh sequence was expected after " + std::to_string(Sequence.Frames) +
+						" frames; another one began.");
 				TruncationNumber = Number;
 			}
 			Sequence = {};
@@ -134,7 +134,8 @@ EDecode FItemDecoder::FImpl::BeginMesh(
 {
 	if (Mesh == nullptr || (bJointAnimation && JointTable == nullptr))
 	{
-		return Refuse(EFault::MissingField, Mesh == nullptr ? "/Mesh" : "/Sequence", "The table is absent.");
+		return Refuse(
+			EFault::MissingField, Mesh == nullptr ? "/Mesh" : "/Sequence", "The table was expected; it is absent.");
 	}
 	const EIndexBase IndexBase = Receiver == EReceiver::Editor ? EIndexBase::Surface : EIndexBase::Model;
 	FHeaderReader Reader(Structure);
@@ -191,7 +192,7 @@ EDecode FItemDecoder::FImpl::BeginMesh(
 	Sink = Factory.MakeSink(Kind, ObjectType);
 	if (!Sink)
 	{
-		return Refuse(EFault::OutOfMemory, "", "No memory for the record.");
+		return Refuse(EFault::OutOfMemory, "", "Memory for the record was expected; there is none.");
 	}
 	Sink->Mesh(std::move(Header));
 	return BeginPayload(std::move(Rules), &Joints);
@@ -206,7 +207,7 @@ EDecode FItemDecoder::FImpl::BeginFrame(const Wire::SequenceFrameReply& Frame)
 	const std::string Path = At("", "Frames", Frame.index());
 	if (!Sequence.bOpen)
 	{
-		return Refuse(EFault::SequenceUnexpected, Path, "A frame came while no mesh sequence was open.");
+		return Refuse(EFault::SequenceUnexpected, Path, "The beginning of a mesh sequence was expected; a frame came.");
 	}
 	if (Frame.index() != Sequence.Frames || Sequence.Frames >= Limits.MaxFrames)
 	{
@@ -216,7 +217,9 @@ EDecode FItemDecoder::FImpl::BeginFrame(const Wire::SequenceFrameReply& Frame)
 	}
 	if (!std::isfinite(Frame.time()))
 	{
-		return Refuse(EFault::NotFinite, Path + "/Time", "A finite number was expected.");
+		return Refuse(EFault::NotFinite, Path + "/Time",
+			"A finite number was expected; this one is " +
+				(std::isnan(Frame.time()) ? std::string("not a number.") : std::string("infinite.")));
 	}
 	if (Sequence.Frames > 0 && Frame.time() < Sequence.LastTime)
 	{
@@ -259,14 +262,15 @@ EDecode FItemDecoder::FImpl::EndSequence(const Wire::SequenceEndReply& End)
 	}
 	if (!Sequence.bOpen)
 	{
-		return Refuse(EFault::SequenceUnexpected, "", "An end came while no mesh sequence was open.");
+		return Refuse(EFault::SequenceUnexpected, "", "The beginning of a mesh sequence was expected; an end came.");
 	}
 	FSequence Ended = std::move(Sequence);
 	Sequence = {};
 	if (End.frames() != Ended.Frames)
 	{
 		return Refuse(EFault::SequenceLength, "/Frames",
-			std::to_string(End.frames()) + " frames were announced; " + std::to_string(Ended.Frames) + " came.");
+			std::to_string(End.frames()) + " frames were expected by the end; " + std::to_string(Ended.Frames) +
+				" came.");
 	}
 	if (CompleteSmall() == EDecode::Refused)
 	{

@@ -74,7 +74,7 @@ FLinkFault FPayloadReader::Take(FByteView Bytes)
 		if (Data == nullptr && !OpenArray())
 		{
 			return MakeFault(EFault::OutOfMemory, PathOf(Rules[Current]),
-				"No memory for " + std::to_string(Rules[Current].Slot.Count) + " elements.");
+				"Memory for " + std::to_string(Rules[Current].Slot.Count) + " elements was expected; there is none.");
 		}
 		const FArrayRule& Rule = Rules[Current];
 		const std::uint64_t Whole = Rule.Slot.Count * ElementBytes(Rule.Slot.Array);

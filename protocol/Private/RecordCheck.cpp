@@ -209,7 +209,9 @@ FLinkFault CheckSequenceFrame(
 {
 	if (!std::isfinite(Frame.Time))
 	{
-		return MakeFault(EFault::NotFinite, At(At("", "Frames", Index), "Time"), "A finite number was expected.");
+		return MakeFault(EFault::NotFinite, At(At("", "Frames", Index), "Time"),
+			"A finite number was expected; this one is " +
+				(std::isnan(Frame.Time) ? std::string("not a number.") : std::string("infinite.")));
 	}
 	const struct
 	{

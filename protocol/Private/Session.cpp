@@ -40,8 +40,8 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 	{
 		if (!Out.Credit(Prefix.Offset))
 		{
-			ReportFault(MakeFault(
-				EFault::BadPrefix, "", "A credit of " + std::to_string(Prefix.Offset) + " bytes was never sent."));
+			ReportFault(MakeFault(EFault::BadPrefix, "",
+				"A credit for what was sent was expected; one of " + std::to_string(Prefix.Offset) + " bytes came."));
 		}
 		return {};
 	}
@@ -72,7 +72,8 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 	}
 	else
 	{
-		ReportFault(MakeFault(EFault::UnknownFrame, "", "A greeting came on a connection that was greeted."));
+		ReportFault(
+			MakeFault(EFault::UnknownFrame, "", "An item, a piece or credit was expected; a greeting came again."));
 	}
 	return {};
 }
@@ -128,8 +129,8 @@ void FSession::DropStalled(FClock::time_point Now, std::chrono::milliseconds Sta
 	{
 		return;
 	}
-	const FLinkFault Fault =
-		Decoder.Abandon(EFault::Stalled, "No piece came for " + std::to_string(StallTime.count()) + " milliseconds.");
+	const FLinkFault Fault = Decoder.Abandon(
+		EFault::Stalled, "A piece was expected; none came for " + std::to_string(StallTime.count()) + " milliseconds.");
 	ReportFault(Fault, Decoder.FaultItem());
 }
 

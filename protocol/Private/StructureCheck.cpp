@@ -210,7 +210,9 @@ bool FStructureCheck::Joints(const FSurfaceMesh& Mesh)
 		const auto Parent = [&] { return At(At("", "Joints", Index), "ParentIndex"); };
 		if (Text(Joint.Name, Limits.MaxNameBytes, Name) ||
 			Refuse(Index > 0 && Joint.ParentIndex == -1, EFault::SecondRoot, Parent,
-				[] { return std::string("Only the first joint has no parent; -1 came."); }) ||
+				[] {
+					return std::string("An earlier joint was expected, because only the first has no parent; -1 came.");
+				}) ||
 			Refuse(Joint.ParentIndex < -1 || (Joint.ParentIndex >= 0 && std::size_t(Joint.ParentIndex) >= Index),
 				EFault::ParentOrder, Parent,
 				[&]

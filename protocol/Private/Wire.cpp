@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Zef/Wire.h"
 
+#include "Text.h"
 #include "tandem_generated.h"
 
 #include <algorithm>
@@ -47,9 +48,11 @@ const TTable* Root(FByteView Bytes, FBytes& Aligned)
 															  : nullptr;
 }
 
+/** What the other end says about itself, fit for one line of a log. */
 std::string Text(const flatbuffers::String* String)
 {
-	return String != nullptr ? String->str() : std::string();
+	constexpr std::size_t MaxTextBytes = 4096;
+	return String != nullptr ? OneLine(String->string_view(), MaxTextBytes) : std::string();
 }
 } // namespace
 
@@ -68,24 +71,26 @@ std::optional<FPrefix> DecodePrefix(FByteView Bytes, FLinkFault& OutFault)
 	if (Bytes.size() != FPrefix::Bytes)
 	{
 		OutFault = MakeFault(EFault::BadPrefix, "",
-			"A prefix of " + std::to_string(FPrefix::Bytes) + " bytes was expected, " + std::to_string(Bytes.size()) +
+			"A prefix of " + std::to_string(FPrefix::Bytes) + " bytes was expected; " + std::to_string(Bytes.size()) +
 				" came.");
 		return std::nullopt;
 	}
 	if (!std::equal(std::begin(Magic), std::end(Magic), Bytes.begin()))
 	{
-		OutFault = MakeFault(EFault::BadPrefix, "", "A prefix does not begin with \"ZTL1\".");
+		OutFault =
+			MakeFault(EFault::BadPrefix, "", "A prefix that begins with \"ZTL1\" was expected; another message came.");
 		return std::nullopt;
 	}
 	if (Bytes[5] != 0 || Bytes[6] != 0 || Bytes[7] != 0)
 	{
-		OutFault = MakeFault(EFault::BadPrefix, "", "Bytes 5 to 7 of a prefix are not zero.");
+		OutFault =
+			MakeFault(EFault::BadPrefix, "", "Zeros were expected as bytes 5 to 7 of a prefix; something else came.");
 		return std::nullopt;
 	}
 	if (Bytes[4] < static_cast<std::uint8_t>(EFrame::Hello) || Bytes[4] > static_cast<std::uint8_t>(EFrame::Credit))
 	{
 		OutFault = MakeFault(
-			EFault::UnknownFrame, "", "A frame of kind 1 to 6 was expected, " + std::to_string(Bytes[4]) + " came.");
+			EFault::UnknownFrame, "", "A frame of kind 1 to 6 was expected; " + std::to_string(Bytes[4]) + " came.");
 		return std::nullopt;
 	}
 	return FPrefix{static_cast<EFrame>(Bytes[4]), GetU64(&Bytes[8]), GetU64(&Bytes[16])};

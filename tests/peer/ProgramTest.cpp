@@ -44,7 +44,8 @@ TEST(PeerProgram, TellsAllItsCommandsAndOptions)
 
 	EXPECT_EQ(Help.Status, 0);
 	for (const char* Name : {"serve", "check", "info", "--garment", "--avatar", "--outfit", "--prop", "--sample",
-			 "--channel", "--endpoint", "--save-dir", "--ready-file", "--exit-after", "--once", "--quiet", "--as"})
+			 "--channel", "--endpoint", "--save-dir", "--ready-file", "--exit-after", "--once", "--quiet", "--as", "conformance", "--set", "--only", "--with", "--patience",
+			 "--exact-words", "--list", "faults", "--markdown"})
 	{
 		EXPECT_THAT(Help.Output, HasSubstr(Name));
 	}

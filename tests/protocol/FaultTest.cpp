@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <string_view>
 
 namespace
 {
@@ -35,6 +36,18 @@ TEST_P(Fault, IsReportedWithItsCodeAndPlace)
 INSTANTIATE_TEST_SUITE_P(OfTheTable, Fault, testing::ValuesIn(AllCases()),
 	[](const testing::TestParamInfo<FFaultCase>& Info)
 	{ return std::string(Zef::FaultInfo(Info.param.Code).Name) + "_" + Info.param.Name; });
+
+TEST(FaultTable, SaysWhatEachFaultMeansAndWhatToDo)
+{
+	Zef::EFault Last = Zef::EFault::None;
+	for (const Zef::FFaultInfo& Info : Zef::FaultTable())
+	{
+		EXPECT_LT(Last, Info.Code) << Info.Name;
+		EXPECT_TRUE(std::string_view(Info.Text).ends_with(".")) << Info.Name;
+		EXPECT_TRUE(std::string_view(Info.Remedy).ends_with(".")) << Info.Name << " lacks what to do";
+		Last = Info.Code;
+	}
+}
 
 TEST(FaultTable, HasACaseForEachCode)
 {

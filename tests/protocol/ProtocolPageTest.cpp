@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What docs/protocol.md says about bytes and codes is what the library does.
+// What docs/protocol.md says about bytes is what the library does.
 #include "SampleRecords.h"
-#include "Zef/Fault.h"
 #include "Zef/Wire.h"
 
 #include <gtest/gtest.h>
@@ -46,19 +45,6 @@ std::string Message(const char* Arrow, const char* Name, const Zef::FPrefix& Pre
 	std::string Text = std::string(Arrow) + " " + Name + "\n";
 	Text += "  prefix   " + Hexadecimal({Bytes.begin(), Bytes.end()}) + "\n";
 	return Body.empty() ? Text : Text + "  table    " + Hexadecimal(Body) + "\n";
-}
-
-TEST(ProtocolPage, ListsEveryFaultAsTheTableHasIt)
-{
-	std::stringstream Expected;
-	Expected << "| Code | Name | Severity | Meaning |\n|---|---|---|---|\n";
-	for (const Zef::FFaultInfo& Info : Zef::FaultTable())
-	{
-		static constexpr const char* Severities[] = {"warning", "error", "fatal"};
-		Expected << "| " << static_cast<unsigned>(Info.Code) << " | " << Info.Name << " | "
-				 << Severities[static_cast<unsigned>(Info.Severity)] << " | " << Info.Text << " |\n";
-	}
-	EXPECT_EQ(Part("faults"), Expected.str());
 }
 
 TEST(ProtocolPage, ShowsTheBytesOfAFirstConversation)

@@ -96,7 +96,8 @@ TEST(Truncation, TheNextItemTellsThatTheOneBeforeWasCutOff)
 	const Zef::FLinkFault Fault = Editor.Decoder.TakeTruncation(CutOff);
 	EXPECT_EQ(Fault.Code, EFault::Truncated);
 	EXPECT_EQ(CutOff, 1u);
-	EXPECT_NE(Fault.Message.find("100 of " + std::to_string(Item.PayloadBytes)), std::string::npos) << Fault.Message;
+	EXPECT_EQ(Fault.Message,
+		std::to_string(Item.PayloadBytes) + " bytes of this SurfaceMesh were expected; the next item came after 100.");
 	EXPECT_FALSE(Editor.Decoder.TakeTruncation(CutOff));
 }
 

@@ -19,7 +19,7 @@ enum class EFaultSeverity : std::uint8_t
 	Fatal = 2
 };
 
-/** Codes are part of the protocol: a number is never given to another fault. See docs/protocol.md for the table. */
+/** Codes are part of the protocol: a number is never given to another fault. See docs/link-errors.md. */
 enum class EFault : std::uint16_t
 {
 	None = 0,
@@ -98,8 +98,10 @@ struct FFaultInfo
 	EFault Code;
 	const char* Name;
 	EFaultSeverity Severity;
-	/** What it means and what to do, one sentence. */
+	/** What it means, one sentence. */
 	const char* Text;
+	/** What whoever sent it can do, one sentence. */
+	const char* Remedy = "";
 };
 
 /** All faults in ascending order of their code. */
