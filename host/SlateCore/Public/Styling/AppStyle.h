@@ -29,10 +29,24 @@ public:
 		return Get().GetFloat(PropertyName, Specifier);
 	}
 
-	template <typename WidgetStyleType>
-	static const WidgetStyleType& GetWidgetStyle(FName PropertyName)
+	static const FSlateBrush* GetOptionalBrush(
+		FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* const DefaultBrush = nullptr)
 	{
-		return Get().GetWidgetStyle<WidgetStyleType>(PropertyName);
+		return Get().GetOptionalBrush(PropertyName, Specifier, DefaultBrush);
+	}
+	static FVector2D GetVector(FName PropertyName, const ANSICHAR* Specifier = nullptr)
+	{
+		return Get().GetVector(PropertyName, Specifier);
+	}
+	static const FLinearColor& GetColor(FName PropertyName, const ANSICHAR* Specifier = nullptr)
+	{
+		return Get().GetColor(PropertyName, Specifier);
+	}
+
+	template <typename WidgetStyleType>
+	static const WidgetStyleType& GetWidgetStyle(FName PropertyName, const ANSICHAR* Specifier = nullptr)
+	{
+		return Get().GetWidgetStyle<WidgetStyleType>(PropertyName, Specifier);
 	}
 
 	FAppStyle() = delete;

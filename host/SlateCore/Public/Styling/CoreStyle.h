@@ -8,6 +8,7 @@
 class FCoreStyle
 {
 public:
+	/** The set "CoreStyle". */
 	static const ISlateStyle& Get();
 
 	FCoreStyle() = delete;

@@ -19,6 +19,16 @@ enum Type : int
 };
 }
 
+/** Corners and outline of a rounded box. */
+struct FSlateBrushOutlineSettings
+{
+	/** Top left, top right, bottom right, bottom left; slate units. */
+	FVector4 CornerRadii = FVector4(0.0, 0.0, 0.0, 0.0);
+	FSlateColor Color = FLinearColor::Transparent;
+	/** Slate units; 0 for no outline. */
+	float Width = 0.0f;
+};
+
 struct FSlateBrush
 {
 	/** Width and height, slate units. */
@@ -26,6 +36,8 @@ struct FSlateBrush
 	FMargin Margin;
 	FSlateColor TintColor = FLinearColor::White;
 	ESlateBrushDrawType::Type DrawAs = ESlateBrushDrawType::Image;
+	/** Of a rounded box. */
+	FSlateBrushOutlineSettings OutlineSettings;
 
 	FSlateBrush() = default;
 	virtual ~FSlateBrush() = default;
@@ -48,13 +60,4 @@ protected:
 
 private:
 	FName ResourceName;
-};
-
-/** Paints nothing. */
-struct FSlateNoResource : public FSlateBrush
-{
-	explicit FSlateNoResource(const FVector2D& InImageSize = FVector2D(0.0, 0.0))
-		: FSlateBrush(ESlateBrushDrawType::NoDrawType, NAME_None, InImageSize, FLinearColor::White, FMargin())
-	{
-	}
 };

@@ -2,8 +2,11 @@
 
 #include "Styling/SlateStyle.h"
 
+#include "Host/StyleResources.h"
 #include "Logging/LogMacros.h"
+#include "Misc/Paths.h"
 #include "Styling/AppStyle.h"
+#include "Styling/CoreStyle.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "Textures/SlateIcon.h"
 
@@ -16,49 +19,12 @@ FName JoinKey(const FName PropertyName, const ANSICHAR* Specifier)
 	return Specifier ? FName(*(PropertyName.ToString() + FString(Specifier))) : PropertyName;
 }
 
-void ReportMissing(const TCHAR* Kind, const FName Key, const FName StyleSetName)
-{
-	UE_LOG(LogSlateStyle, Log, TEXT("Style set '%s' has no %s '%s'"), *StyleSetName.ToString(), Kind, *Key.ToString());
-}
-
 TMap<FName, const ISlateStyle*>& RegisteredStyles()
 {
 	static TMap<FName, const ISlateStyle*> Styles;
 	return Styles;
 }
 } // namespace
-
-const FName FTextBlockStyle::TypeName(TEXT("FTextBlockStyle"));
-
-const FTextBlockStyle& FTextBlockStyle::GetDefault()
-{
-	static const FTextBlockStyle Default;
-	return Default;
-}
-
-FTextBlockStyle& FTextBlockStyle::SetColorAndOpacity(const FSlateColor& InColorAndOpacity)
-{
-	ColorAndOpacity = InColorAndOpacity;
-	return *this;
-}
-
-FTextBlockStyle& FTextBlockStyle::SetShadowOffset(const FVector2D& InShadowOffset)
-{
-	ShadowOffset = InShadowOffset;
-	return *this;
-}
-
-FTextBlockStyle& FTextBlockStyle::SetShadowColorAndOpacity(const FLinearColor& InShadowColorAndOpacity)
-{
-	ShadowColorAndOpacity = InShadowColorAndOpacity;
-	return *this;
-}
-
-FTextBlockStyle& FTextBlockStyle::SetFontSize(float InFontSize)
-{
-	FontSize = InFontSize;
-	return *this;
-}
 
 FSlateStyleSet::FSlateStyleSet(const FName& InStyleSetName)
 	: StyleSetName(InStyleSetName)
@@ -112,9 +78,26 @@ void FSlateStyleSet::Set(const FName PropertyName, const FMargin& InMargin)
 	Margins.Add(PropertyName, InMargin);
 }
 
-void FSlateStyleSet::Set(const FName PropertyName, const FTextBlockStyle& InStyle)
+void FSlateStyleSet::Set(const FName PropertyName, const FVector2D& InVector)
 {
-	WidgetStyles.Add(PropertyName, MakeShared<FTextBlockStyle>(InStyle));
+	Vectors.Add(PropertyName, InVector);
+}
+
+void FSlateStyleSet::Set(const FName PropertyName, const FLinearColor& InColor)
+{
+	LinearColors.Add(PropertyName, InColor);
+}
+
+void FSlateStyleSet::ReportMissing(const TCHAR* Kind, const FName Key) const
+{
+	const FString Line =
+		FString::Printf(TEXT("The style set '%s' has no %s '%s'"), *StyleSetName.ToString(), Kind, *Key.ToString());
+	bool bAlready = false;
+	Reported.Add(Line, &bAlready);
+	if (!bAlready)
+	{
+		UE_LOG(LogSlateStyle, Log, TEXT("%s"), *Line);
+	}
 }
 
 const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSICHAR* Specifier) const
@@ -123,15 +106,77 @@ const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSI
 	{
 		return Found;
 	}
-	ReportMissing(TEXT("brush"), JoinKey(PropertyName, Specifier), StyleSetName);
+	ReportMissing(TEXT("brush"), JoinKey(PropertyName, Specifier));
 	return &DefaultBrush;
 }
 
 const FSlateBrush* FSlateStyleSet::GetOptionalBrush(
 	const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const InDefaultBrush) const
 {
-	const TSharedPtr<FSlateBrush>* Found = Brushes.Find(JoinKey(PropertyName, Specifier));
-	return Found ? Found->Get() : InDefaultBrush;
+	const FName Key = JoinKey(PropertyName, Specifier);
+	const TSharedPtr<FSlateBrush>* const Found = Brushes.Find(Key);
+	if (!Found)
+	{
+		return InDefaultBrush;
+	}
+	return HasImageFile(**Found) ? Found->Get() : GetPlaceholder(Key, **Found);
+}
+
+bool FSlateStyleSet::HasImageFile(const FSlateBrush& Brush) const
+{
+	const FName File = Brush.GetResourceName();
+	if (File.IsNone())
+	{
+		return true;
+	}
+	if (FoundFilesGeneration != Host::ImageFileGeneration())
+	{
+		FoundFilesGeneration = Host::ImageFileGeneration();
+		FoundFiles.Empty();
+	}
+	if (const bool* const Known = FoundFiles.Find(File))
+	{
+		return *Known;
+	}
+	const bool bFound = FPaths::FileExists(File.ToString());
+	FoundFiles.Add(File, bFound);
+	return bFound;
+}
+
+const FSlateBrush* FSlateStyleSet::GetPlaceholder(const FName Key, const FSlateBrush& Brush) const
+{
+	if (const TSharedPtr<FSlateBrush>* const Made = Placeholders.Find(Key))
+	{
+		return Made->Get();
+	}
+	UE_LOG(LogSlateStyle, Warning,
+		TEXT("The image file '%s' of the brush '%s' in the style set '%s' is missing; put it back, or reinstall"),
+		*Brush.GetResourceName().ToString(), *Key.ToString(), *StyleSetName.ToString());
+	const TSharedRef<FSlateBrush> Placeholder = Host::MakeMissingImageBrush(Brush.GetImageSize());
+	Placeholders.Add(Key, Placeholder);
+	return &*Placeholder;
+}
+
+FVector2D FSlateStyleSet::GetVector(const FName PropertyName, const ANSICHAR* Specifier) const
+{
+	const FName Key = JoinKey(PropertyName, Specifier);
+	if (const FVector2D* Found = Vectors.Find(Key))
+	{
+		return *Found;
+	}
+	ReportMissing(TEXT("vector"), Key);
+	return FVector2D(0.0, 0.0);
+}
+
+const FLinearColor& FSlateStyleSet::GetColor(const FName PropertyName, const ANSICHAR* Specifier) const
+{
+	const FName Key = JoinKey(PropertyName, Specifier);
+	if (const FLinearColor* Found = LinearColors.Find(Key))
+	{
+		return *Found;
+	}
+	ReportMissing(TEXT("colour"), Key);
+	return FLinearColor::White;
 }
 
 float FSlateStyleSet::GetFloat(const FName PropertyName, const ANSICHAR* Specifier) const
@@ -141,7 +186,7 @@ float FSlateStyleSet::GetFloat(const FName PropertyName, const ANSICHAR* Specifi
 	{
 		return *Found;
 	}
-	ReportMissing(TEXT("number"), Key, StyleSetName);
+	ReportMissing(TEXT("number"), Key);
 	return 0.0f;
 }
 
@@ -152,7 +197,11 @@ const FSlateColor FSlateStyleSet::GetSlateColor(const FName PropertyName, const 
 	{
 		return *Found;
 	}
-	ReportMissing(TEXT("colour"), Key, StyleSetName);
+	if (const FLinearColor* Found = LinearColors.Find(Key))
+	{
+		return *Found;
+	}
+	ReportMissing(TEXT("colour"), Key);
 	return FSlateColor::UseForeground();
 }
 
@@ -163,7 +212,7 @@ const FMargin& FSlateStyleSet::GetMargin(const FName PropertyName, const ANSICHA
 	{
 		return *Found;
 	}
-	ReportMissing(TEXT("margin"), Key, StyleSetName);
+	ReportMissing(TEXT("margin"), Key);
 	return DefaultMargin;
 }
 
@@ -175,7 +224,7 @@ const FSlateWidgetStyle* FSlateStyleSet::GetWidgetStyleInternal(
 	{
 		return Found->Get();
 	}
-	ReportMissing(TEXT("widget style"), StyleName, StyleSetName);
+	ReportMissing(TEXT("widget style"), StyleName);
 	return nullptr;
 }
 
@@ -202,7 +251,11 @@ const ISlateStyle* FSlateStyleRegistry::FindSlateStyle(const FName& InSlateStyle
 	{
 		return *Found;
 	}
-	return InSlateStyleName == FAppStyle::GetAppStyleSetName() ? &FAppStyle::Get() : nullptr;
+	if (InSlateStyleName == FAppStyle::GetAppStyleSetName())
+	{
+		return &FAppStyle::Get();
+	}
+	return InSlateStyleName == FCoreStyle::Get().GetStyleSetName() ? &FCoreStyle::Get() : nullptr;
 }
 
 const FSlateBrush* FSlateIcon::GetIcon() const
