@@ -197,6 +197,13 @@ void USceneComponent::OnRegister()
 	UpdateComponentToWorld();
 }
 
+void USceneComponent::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	UpdateComponentToWorld();
+	MarkRenderStateDirty();
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+}
+
 void USceneComponent::UpdateComponentToWorld()
 {
 	const FTransform Relative = GetRelativeTransform();

@@ -3,9 +3,11 @@
 
 #include "Components/PrimitiveComponent.h"
 #include "EditorSubsystem.h"
+#include "EditorUndoClient.h"
 #include "EditorViewportClient.h"
 #include "EditorViewportCommands.h"
 #include "Engine/World.h"
+#include "Host/ChangeRecorder.h"
 #include "Host/EditorState.h"
 #include "Host/SelectionQuery.h"
 #include "MeshHitTester.h"
@@ -13,10 +15,16 @@
 #include "Templates/Casts.h"
 #include "TickableEditorObject.h"
 #include "TimerManager.h"
+#include "Transactions.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 
 UEditorEngine* GEditor = nullptr;
+
+namespace Host
+{
+static bool RecordChange(UObject& Object);
+}
 
 namespace
 {
@@ -43,6 +51,8 @@ UEditorEngine::UEditorEngine(const FObjectInitializer& ObjectInitializer)
 void UEditorEngine::InitEditor()
 {
 	TimerManager = MakeShared<FTimerManager>();
+	Transactions = MakeShared<Host::FTransactions>();
+	Host::SetChangeRecorder(&Host::RecordChange);
 	FEditorViewportCommands::Register();
 	static Host::FMeshHitTester HitTester;
 	Host::SetDefaultHitTester(&HitTester);
@@ -55,6 +65,8 @@ void UEditorEngine::InitEditor()
 void UEditorEngine::PreExit()
 {
 	bExiting = true;
+	Host::SetChangeRecorder(nullptr);
+	Transactions.Reset();
 	Host::SetSelectionQuery(nullptr);
 	Host::SetDefaultHitTester(nullptr);
 	FEditorViewportCommands::Unregister();
@@ -126,68 +138,6 @@ void UEditorEngine::RegisterForUndo(FEditorUndoClient* UndoClient)
 void UEditorEngine::UnregisterForUndo(FEditorUndoClient* UndoClient)
 {
 	UndoClients.Remove(UndoClient);
-}
-
-int32 UEditorEngine::BeginTransaction(const FText& Description)
-{
-	OpenTransactions.Add(Description);
-	return HistoryPosition;
-}
-
-int32 UEditorEngine::EndTransaction()
-{
-	if (OpenTransactions.IsEmpty())
-	{
-		return INDEX_NONE;
-	}
-	const FText Description = OpenTransactions.Pop();
-	if (OpenTransactions.IsEmpty())
-	{
-		History.SetNum(HistoryPosition);
-		History.Add(Description);
-		++HistoryPosition;
-	}
-	return HistoryPosition - 1;
-}
-
-bool UEditorEngine::UndoTransaction(bool bCanRedo)
-{
-	const bool bSuccess = HistoryPosition > 0 && OpenTransactions.IsEmpty();
-	if (bSuccess)
-	{
-		--HistoryPosition;
-		if (!bCanRedo)
-		{
-			History.SetNum(HistoryPosition);
-		}
-		const TArray<FEditorUndoClient*> Clients = UndoClients;
-		for (FEditorUndoClient* const Client : Clients)
-		{
-			if (UndoClients.Contains(Client))
-			{
-				Client->PostUndo(true);
-			}
-		}
-	}
-	return bSuccess;
-}
-
-bool UEditorEngine::RedoTransaction()
-{
-	const bool bSuccess = HistoryPosition < History.Num() && OpenTransactions.IsEmpty();
-	if (bSuccess)
-	{
-		++HistoryPosition;
-		const TArray<FEditorUndoClient*> Clients = UndoClients;
-		for (FEditorUndoClient* const Client : Clients)
-		{
-			if (UndoClients.Contains(Client))
-			{
-				Client->PostRedo(true);
-			}
-		}
-	}
-	return bSuccess;
 }
 
 void UEditorEngine::SelectNone(bool bNoteSelectionChange, bool, bool)
@@ -276,6 +226,7 @@ struct FEditorAccess
 		}
 		return Result;
 	}
+	static Host::FTransactions* Transactions() { return GEditor ? GEditor->Transactions.Get() : nullptr; }
 	static int32 SelectionNotes() { return Editor().SelectionNotes; }
 	static int32 UndoClients() { return Editor().UndoClients.Num(); }
 };
@@ -293,5 +244,45 @@ int32 SelectionNoteCount()
 int32 UndoClientCount()
 {
 	return FEditorAccess::UndoClients();
+}
+
+static bool RecordChange(UObject& Object)
+{
+	FTransactions* const Transactions = FEditorAccess::Transactions();
+	return Transactions && Transactions->Record(Object);
+}
+
+bool CanUndo()
+{
+	FTransactions* const Transactions = FEditorAccess::Transactions();
+	return Transactions && Transactions->CanUndo();
+}
+
+bool CanRedo()
+{
+	FTransactions* const Transactions = FEditorAccess::Transactions();
+	return Transactions && Transactions->CanRedo();
+}
+
+FText UndoText()
+{
+	const FTransactions* const Transactions = FEditorAccess::Transactions();
+	return CanUndo() ? FText::Format(NSLOCTEXT("EditorTransactions", "UndoTransaction", "Undo {0}"),
+						   Transactions->GetTitles()[Transactions->GetPosition() - 1])
+					 : NSLOCTEXT("EditorTransactions", "Undo", "Undo");
+}
+
+FText RedoText()
+{
+	const FTransactions* const Transactions = FEditorAccess::Transactions();
+	return CanRedo() ? FText::Format(NSLOCTEXT("EditorTransactions", "RedoTransaction", "Redo {0}"),
+						   Transactions->GetTitles()[Transactions->GetPosition()])
+					 : NSLOCTEXT("EditorTransactions", "Redo", "Redo");
+}
+
+TArray<FText> TransactionTitles()
+{
+	const FTransactions* const Transactions = FEditorAccess::Transactions();
+	return Transactions ? Transactions->GetTitles() : TArray<FText>();
 }
 } // namespace Host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UObject/Object.h"
 
+#include "Host/ChangeRecorder.h"
 #include "UObject/ObjectAccess.h"
 #include "UObject/ObjectNames.h"
 #include "UObject/Package.h"
@@ -104,9 +105,24 @@ bool UObject::CanEditChange(const FProperty* InProperty) const
 }
 #endif
 
+namespace
+{
+Host::FChangeRecorder ChangeRecorder = nullptr;
+}
+
+void Host::SetChangeRecorder(FChangeRecorder Recorder)
+{
+	ChangeRecorder = Recorder;
+}
+
 bool UObject::Modify(bool bAlwaysMarkDirty)
 {
-	return bAlwaysMarkDirty && MarkPackageDirty();
+	const bool bRecorded = ChangeRecorder && HasAnyFlags(RF_Transactional) && ChangeRecorder(*this);
+	if (bAlwaysMarkDirty || bRecorded)
+	{
+		MarkPackageDirty();
+	}
+	return bRecorded;
 }
 
 bool UObject::IsAsset() const

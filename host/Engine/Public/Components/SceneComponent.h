@@ -66,6 +66,8 @@ public:
 	FBoxSphereBounds GetLocalBounds() const;
 
 	void DestroyComponent(bool bPromoteChildren = false) override;
+	/** The place in the world and what the scene shows follow the edited values. */
+	void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 
 protected:
 	void OnRegister() override;

@@ -17,7 +17,8 @@ class UEditorSubsystem;
 namespace Host
 {
 struct FEditorAccess;
-}
+class FTransactions;
+} // namespace Host
 
 /** The feature level that previews are shown at. */
 struct FPreviewPlatformInfo
@@ -44,8 +45,8 @@ DECLARE_MULTICAST_DELEGATE_OneParam(FPreviewFeatureLevelChanged, ERHIFeatureLeve
 /**
  * One editor: its world, timers, undo history and selection, and the subsystems beside it.
  *
- * The undo history knows the order and the names of the transactions and tells the undo clients; what a client shows it
- * restores itself.
+ * A transaction keeps the properties of the objects that call UObject::Modify while it is open; undo and redo set them
+ * again and tell the undo clients.
  */
 UCLASS()
 class UEditorEngine : public UEngine
@@ -77,9 +78,15 @@ public:
 	void RegisterForUndo(FEditorUndoClient* UndoClient);
 	void UnregisterForUndo(FEditorUndoClient* UndoClient);
 	/** Opens a transaction; those within the outermost one are parts of it. Returns its index in the history. */
-	int32 BeginTransaction(const FText& Description);
-	/** Closes the innermost open transaction; what was undone cannot be redone any more. */
-	int32 EndTransaction();
+	virtual int32 BeginTransaction(const FText& Description);
+	/** Closes the innermost open transaction; what was undone cannot be redone any more. INDEX_NONE when none is open.
+	 */
+	virtual int32 EndTransaction();
+	/** Brings back what the open transaction of that index has changed, and forgets it with all within it. */
+	virtual void CancelTransaction(int32 Index);
+	virtual bool IsTransactionActive() const;
+	/** Forgets all transactions; Reason goes to the log. */
+	virtual void ResetTransaction(const FText& Reason);
 	/** Steps back in the history; false, and no client told of success, when there is nothing to undo. */
 	bool UndoTransaction(bool bCanRedo = true);
 	bool RedoTransaction();
@@ -114,9 +121,7 @@ private:
 	FWorldContext EditorWorldContext;
 	TSharedPtr<FTimerManager> TimerManager;
 	TArray<FEditorUndoClient*> UndoClients;
-	TArray<FText> History;
-	int32 HistoryPosition = 0; // transactions before it can be undone, those from it on redone
-	TArray<FText> OpenTransactions;
+	TSharedPtr<Host::FTransactions> Transactions; // empty outside of InitEditor and PreExit
 	TArray<TWeakObjectPtr<UActorComponent>> SelectedComponents;
 	int32 SelectionNotes = 0;
 	TArray<FEditorViewportClient*> AllViewportClients; // not owned
