@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <string_view>
 #include <system_error>
 
 #ifdef _WIN32
@@ -75,7 +76,44 @@ TResult<FAddress> AddressOfSocket(const std::string& Path, const std::string& Fo
 }
 } // namespace
 
-TResult<FAddress> AddressOfEndpoint(const std::string& Endpoint)
+std::string LinkFolder()
+{
+#ifdef _WIN32
+	return Variable("LOCALAPPDATA") + "/zef-tandem";
+#else
+	const std::string Runtime = Variable("XDG_RUNTIME_DIR");
+	return Runtime.starts_with('/') ? Runtime + "/zef-tandem" : "/tmp/zef-tandem-" + std::to_string(geteuid());
+#endif
+}
+
+std::string EndpointOfEnvironment()
+{
+	return Variable(EndpointVariable);
+}
+
+FHostAndPort HostAndPortOf(const std::string& Endpoint)
+{
+	static constexpr std::string_view Tcp = "tcp://";
+	const std::size_t Colon = Endpoint.rfind(':');
+	if (!Endpoint.starts_with(Tcp) || Colon <= Tcp.size())
+	{
+		return {};
+	}
+	std::string Host = Endpoint.substr(Tcp.size(), Colon - Tcp.size());
+	const std::string Port = Endpoint.substr(Colon + 1);
+	if (Host.starts_with('[') && Host.ends_with(']'))
+	{
+		Host = Host.substr(1, Host.size() - 2);
+	}
+	const bool bNumber = !Port.empty() && Port.size() <= 5 &&
+						 Port.find_first_not_of("0123456789") == std::string::npos && std::stoi(Port) >= 1 &&
+						 std::stoi(Port) <= 65535;
+	// Nothing that ZeroMQ reads as more than a host: the source address that it takes in front of ';', a path.
+	const bool bHost = !Host.empty() && Host.find_first_of("/;, ") == std::string::npos;
+	return bHost && (bNumber || Port == "*") ? FHostAndPort{Host, Port} : FHostAndPort{};
+}
+
+TResult<FAddress> AddressOfEndpoint(const std::string& Endpoint, ERemote Remote)
 {
 	static constexpr const char* PortFile = "portfile:";
 	FAddress Address;
@@ -93,16 +131,26 @@ TResult<FAddress> AddressOfEndpoint(const std::string& Endpoint)
 	{
 		return AddressOfSocket(Endpoint.substr(6), "");
 	}
-	return Refused(
-		"\"" + Endpoint +
-		"\" is no local endpoint; ipc://PATH, tcp://127.0.0.1:PORT, tcp://[::1]:PORT and portfile:PATH are.");
+	if (!HostAndPortOf(Endpoint).Host.empty())
+	{
+		if (Remote == ERemote::WithKeys)
+		{
+			Address.Endpoint = Endpoint;
+			Address.bRemote = true;
+			return Address;
+		}
+		return Refused("\"" + Endpoint + "\" is not local, so it needs keys, and none are named.");
+	}
+	return Refused("\"" + Endpoint +
+				   "\" is no endpoint; ipc://PATH, tcp://127.0.0.1:PORT, tcp://[::1]:PORT and portfile:PATH are, and "
+				   "with keys tcp://HOST:PORT.");
 }
 
-TResult<FAddress> AddressOfChannel(const std::string& ChannelName)
+TResult<FAddress> AddressOfChannel(const std::string& ChannelName, ERemote Remote)
 {
-	if (const std::string Override = Variable(EndpointVariable); !Override.empty())
+	if (const std::string Override = EndpointOfEnvironment(); !Override.empty())
 	{
-		return AddressOfEndpoint(Override);
+		return AddressOfEndpoint(Override, Remote);
 	}
 	if (ChannelName.empty())
 	{
@@ -119,8 +167,7 @@ TResult<FAddress> AddressOfChannel(const std::string& ChannelName)
 	Address.PortFile = Address.Folder + "/" + Escaped(ChannelName) + ".port";
 	return Address;
 #else
-	std::string Folder = Variable("XDG_RUNTIME_DIR");
-	Folder = Folder.starts_with('/') ? Folder + "/zef-tandem" : "/tmp/zef-tandem-" + std::to_string(geteuid());
+	const std::string Folder = LinkFolder();
 	return AddressOfSocket(Folder + "/" + Escaped(ChannelName) + ".sock", Folder);
 #endif
 }
@@ -184,6 +231,39 @@ FLinkFault CheckFolder(const FAddress& Address)
 	}
 #else
 	(void)Address;
+#endif
+	return {};
+}
+
+FLinkReason CheckBeforeConnecting(const FAddress& Address)
+{
+	if (const FLinkFault Fault = CheckFolder(Address))
+	{
+		return {ELinkReason::FolderUnsafe, Fault.Message};
+	}
+#ifndef _WIN32
+	struct stat Status
+	{
+	};
+	const std::string& File = Address.PortFile.empty() ? Address.SocketFile : Address.PortFile;
+	if (File.empty() || lstat(File.c_str(), &Status) != 0)
+	{
+		return {};
+	}
+	if (Address.PortFile.empty() ? !S_ISSOCK(Status.st_mode) : !S_ISREG(Status.st_mode))
+	{
+		return {ELinkReason::SocketUnsafe,
+			"\"" + File + "\" is no " + (Address.PortFile.empty() ? "socket" : "plain file") + "."};
+	}
+	if (Status.st_uid != geteuid())
+	{
+		return {ELinkReason::ForeignUser, "\"" + File + "\" belongs to user " + std::to_string(Status.st_uid) +
+											  ", not to user " + std::to_string(geteuid()) + "."};
+	}
+	if (!Address.PortFile.empty() && (Status.st_mode & 022) != 0)
+	{
+		return {ELinkReason::SocketUnsafe, "\"" + File + "\" can be written by others."};
+	}
 #endif
 	return {};
 }

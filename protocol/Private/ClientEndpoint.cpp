@@ -44,7 +44,7 @@ FLinkFault CheckAnimation(const FObjectTypeInfo& Info, const FJointAnimation* An
 }
 
 template <class TImpl>
-TResult<std::unique_ptr<TImpl>> Start(const std::string& Name, TResult<FAddress>&& Address,
+TResult<std::unique_ptr<TImpl>> Start(const std::string& Name, TResult<FOpenAddress>&& Address,
 	std::shared_ptr<IRecordFactory>&& Factory, const FClientOptions& Options)
 {
 	if (!Address)
@@ -52,7 +52,10 @@ TResult<std::unique_ptr<TImpl>> Start(const std::string& Name, TResult<FAddress>
 		return Address.Fault();
 	}
 	auto Impl = std::make_unique<TImpl>(Name, std::move(*Address), std::move(Factory), Options);
-	Impl->Start();
+	if (FLinkFault Fault = Impl->Start())
+	{
+		return Fault;
+	}
 	return Impl;
 }
 } // namespace
@@ -67,7 +70,8 @@ FClientEndpoint::~FClientEndpoint() = default;
 TResult<std::unique_ptr<FClientEndpoint>> FClientEndpoint::Open(
 	const std::string& ChannelName, std::shared_ptr<IRecordFactory> Factory, const FClientOptions& Options)
 {
-	auto Started = Start<FImpl>(ChannelName, AddressOfChannel(ChannelName), std::move(Factory), Options);
+	auto Started = Start<FImpl>(ChannelName, OpenAddress(ChannelName, std::nullopt, Options.KeyFile, ELinkEnd::Editor),
+		std::move(Factory), Options);
 	if (!Started)
 	{
 		return Started.Fault();
@@ -78,7 +82,8 @@ TResult<std::unique_ptr<FClientEndpoint>> FClientEndpoint::Open(
 TResult<std::unique_ptr<FClientEndpoint>> FClientEndpoint::OpenEndpoint(
 	const std::string& Endpoint, std::shared_ptr<IRecordFactory> Factory, const FClientOptions& Options)
 {
-	auto Started = Start<FImpl>(Endpoint, AddressOfEndpoint(Endpoint), std::move(Factory), Options);
+	auto Started = Start<FImpl>(
+		Endpoint, OpenAddress("", Endpoint, Options.KeyFile, ELinkEnd::Editor), std::move(Factory), Options);
 	if (!Started)
 	{
 		return Started.Fault();
@@ -89,6 +94,21 @@ TResult<std::unique_ptr<FClientEndpoint>> FClientEndpoint::OpenEndpoint(
 bool FClientEndpoint::IsConnected() const
 {
 	return Impl->IsConnected();
+}
+
+FLinkStatus FClientEndpoint::Status() const
+{
+	return Impl->Status();
+}
+
+FUpdateProgress FClientEndpoint::Progress() const
+{
+	return Impl->Status().Progress;
+}
+
+FLinkFault FClientEndpoint::FinishRecording()
+{
+	return Impl->FinishRecording();
 }
 
 std::size_t FClientEndpoint::Poll(IClientHandler& Handler, std::chrono::milliseconds MaxWait)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ClientLoop.h"
 
-#include "Statistics.h"
+#include "PeerUser.h"
+#include "Reach.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <new>
 
 namespace Zef
@@ -13,13 +15,6 @@ namespace
 {
 /** Messages taken in a row before requests get their turn. */
 constexpr int MessagesInARow = 256;
-
-constexpr std::uint64_t EventBytes = 256;
-/** When so many events wait for the program, the peer is not credited, and further reports of faults are left out. */
-constexpr std::size_t WaitingEvents = 4096;
-
-/** Requests that a peer that takes nothing leaves waiting; beyond that a send fails. */
-constexpr std::size_t MaxQueuedItems = 4096;
 
 /** The longest time between two attempts to connect, as a multiple of the shortest. */
 constexpr int SlowestRetry = 5;
@@ -32,12 +27,18 @@ constexpr std::chrono::milliseconds GreetingTime(5000);
 
 /** The longest wait for what a connection that has ended still delivered. */
 constexpr std::chrono::milliseconds LastWordsTime(100);
+
+/** How long a machine may take to answer. */
+constexpr int RemoteConnectMilliseconds = 2000;
+constexpr std::chrono::milliseconds RemoteProbeTime(500);
+constexpr std::chrono::milliseconds ProbePause(5000);
 } // namespace
 
-FClientEndpoint::FImpl::FImpl(
-	std::string InName, FAddress InAddress, std::shared_ptr<IRecordFactory> InFactory, const FClientOptions& InOptions)
+FClientEndpoint::FImpl::FImpl(std::string InName, FOpenAddress InAddress, std::shared_ptr<IRecordFactory> InFactory,
+	const FClientOptions& InOptions)
 	: Name(std::move(InName))
-	, Address(std::move(InAddress))
+	, Address(std::move(InAddress.Address))
+	, Keys(std::move(InAddress.Keys))
 	, Factory(std::move(InFactory))
 	, Options(InOptions)
 	, Watched(Name, Address.Endpoint.empty() ? Address.PortFile : Address.Endpoint)
@@ -53,11 +54,27 @@ FClientEndpoint::FImpl::~FImpl()
 	{
 		Thread.join();
 	}
+	FinishRecording();
 }
 
-void FClientEndpoint::FImpl::Start()
+FLinkFault FClientEndpoint::FImpl::FinishRecording()
 {
+	return Recorder ? Recorder->Finish() : FLinkFault{};
+}
+
+FLinkFault FClientEndpoint::FImpl::Start()
+{
+	if (!Options.RecordFile.empty())
+	{
+		auto Opened = FRecorder::Open(Options.RecordFile);
+		if (!Opened)
+		{
+			return Opened.Fault();
+		}
+		Recorder = std::move(*Opened);
+	}
 	Thread = StartThread([this] { Run(); });
+	return {};
 }
 
 void FClientEndpoint::FImpl::Stop()
@@ -82,7 +99,7 @@ void FClientEndpoint::FImpl::Run()
 		catch (const std::bad_alloc&)
 		{
 			// What was under way is lost with the connection; the next one starts afresh.
-			OnTransportDown("There was no memory to go on with the connection.");
+			OnTransportDown({ELinkReason::OutOfMemory, "There was no memory to go on with the connection."});
 		}
 	}
 	Session.reset();
@@ -91,7 +108,9 @@ void FClientEndpoint::FImpl::Run()
 
 void FClientEndpoint::FImpl::TakeTurn()
 {
-	if (!Dealer && Phase != EPhase::Refused)
+	const bool bPause =
+		Phase == EPhase::Refused || (Phase == EPhase::Absent && PhaseDeadline != FClock::time_point::max());
+	if (!Dealer && (!bPause || PhaseDeadline <= FClock::now()))
 	{
 		OpenSocket();
 	}
@@ -112,28 +131,76 @@ void FClientEndpoint::FImpl::TakeTurn()
 
 void FClientEndpoint::FImpl::OpenSocket()
 {
+	if (const FLinkReason Reason = CheckBeforeConnecting(Address))
+	{
+		TurnedAway(Reason, MakeFault(EFault::AddressRefused, "", Reason.What));
+		return;
+	}
 	const std::string Endpoint = ResolveEndpoint(Address);
 	if (Endpoint.empty())
 	{
 		const std::lock_guard Lock(Mutex);
-		SetPhase(EPhase::Absent, "No garment application serves \"" + Name + "\": there is no port file.");
+		SetPhase(EPhase::Absent, NobodyServes());
 		PhaseDeadline = FClock::now() + Options.RetryTime;
 		return;
 	}
 	// A socket serves one connection: a new one cannot inherit half a message from the last.
 	Dealer.emplace(Context, zmq::socket_type::dealer);
-	ConfigureSocket(*Dealer, Options.Limits);
+	ConfigureSocket(*Dealer, Options.Limits, Options.Heartbeat);
 	Dealer->set(zmq::sockopt::reconnect_ivl, static_cast<int>(Options.RetryTime.count()));
 	Dealer->set(zmq::sockopt::reconnect_ivl_max, static_cast<int>(Options.RetryTime.count()) * SlowestRetry);
+	if (Address.bRemote)
+	{
+		// A firewall that swallows everything would otherwise be waited for for minutes.
+		Dealer->set(zmq::sockopt::connect_timeout, RemoteConnectMilliseconds);
+	}
+	if (Keys)
+	{
+		UseKeysAsEditor(*Dealer, *Keys);
+	}
 	Monitor.emplace(Context, *Dealer);
-	Dealer->connect(Endpoint);
+	try
+	{
+		Dealer->connect(Endpoint);
+	}
+	catch (const zmq::error_t& Error)
+	{
+		const FLinkFault Fault =
+			MakeFault(EFault::AddressRefused, "", "\"" + Endpoint + "\" cannot be connected to: " + Error.what() + ".");
+		TurnedAway(ReasonOf(Fault), Fault);
+	}
 }
 
 void FClientEndpoint::FImpl::CloseSocket()
 {
 	bDisconnected = false;
+	Descriptor = -1;
+	ClosingReason = {};
 	Monitor.reset();
 	Dealer.reset();
+}
+
+FLinkReason FClientEndpoint::FImpl::NobodyServes() const
+{
+	const std::string Sentence = "No garment application serves \"" + Name + "\"";
+	if (Address.bRemote)
+	{
+		const FHostAndPort Place = HostAndPortOf(Address.Endpoint);
+		FLinkReason Reason = TryToReach(Place.Host, Place.Port, RemoteProbeTime);
+		Reason.Kind = Reason ? Reason.Kind : ELinkReason::NobodyServes;
+		Reason.What = Sentence + "." + (Reason.What.empty() ? "" : " " + Reason.What);
+		return Reason;
+	}
+	if (!Address.PortFile.empty())
+	{
+		return {ELinkReason::NobodyServes, Sentence + ": there is no port file."};
+	}
+	std::error_code Ignored;
+	if (!Address.SocketFile.empty() && std::filesystem::exists(Address.SocketFile, Ignored))
+	{
+		return {ELinkReason::StaleSocket, Sentence + ": the one that did has ended without removing its socket."};
+	}
+	return {ELinkReason::NobodyServes, Sentence + "."};
 }
 
 void FClientEndpoint::FImpl::WatchConnection()
@@ -145,36 +212,73 @@ void FClientEndpoint::FImpl::WatchConnection()
 		{
 			// ZeroMQ hands over a connection's last messages between telling of its end and whatever it tells next.
 			ReceiveAll();
-			OnTransportDown("The garment application closed the connection.");
+			OnTransportDown(LossReason());
 			return;
 		}
-		switch (Event.Event)
+		OnTransportEvent(Event);
+	}
+}
+
+void FClientEndpoint::FImpl::OnTransportEvent(const FMonitor::FEvent& Event)
+{
+	switch (Event.Event)
+	{
+		case ZMQ_EVENT_CONNECTED:
+			Descriptor = Event.Value;
+			break;
+		case ZMQ_EVENT_HANDSHAKE_SUCCEEDED:
+			OnTransportUp();
+			break;
+		case ZMQ_EVENT_CONNECT_RETRIED:
 		{
-			case ZMQ_EVENT_HANDSHAKE_SUCCEEDED:
-				OnTransportUp();
-				break;
-			case ZMQ_EVENT_CONNECT_RETRIED:
+			// Asking the network why takes time, and the answer does not change from one attempt to the next.
+			const bool bAsk = !Address.bRemote || FClock::now() >= NextProbe;
+			const FLinkReason Reason = bAsk ? NobodyServes() : AbsenceReason;
+			NextProbe = bAsk ? FClock::now() + ProbePause : NextProbe;
+			const std::lock_guard Lock(Mutex);
+			SetPhase(EPhase::Absent, Reason);
+			// A port file may name another port by now.
+			PhaseDeadline = Address.PortFile.empty() ? FClock::time_point::max() : FClock::now() + Options.RetryTime;
+			break;
+		}
+		case ZMQ_EVENT_HANDSHAKE_FAILED_AUTH:
+			OnKeysRejected("The garment application on \"" + Name + "\" does not admit this editor's key.");
+			break;
+		case ZMQ_EVENT_HANDSHAKE_FAILED_PROTOCOL:
+			if (Event.Value == ZMQ_PROTOCOL_ERROR_ZMTP_MECHANISM_MISMATCH)
 			{
-				const std::lock_guard Lock(Mutex);
-				SetPhase(EPhase::Absent, "No garment application serves \"" + Name + "\".");
-				// A port file may name another port by now.
-				PhaseDeadline =
-					Address.PortFile.empty() ? FClock::time_point::max() : FClock::now() + Options.RetryTime;
+				OnKeysRejected(Keys ? "What answers on \"" + Name + "\" uses no keys, this editor does."
+									: "What answers on \"" + Name + "\" wants keys, this editor has none.");
 				break;
 			}
-			case ZMQ_EVENT_HANDSHAKE_FAILED_NO_DETAIL:
-			case ZMQ_EVENT_HANDSHAKE_FAILED_PROTOCOL:
-			case ZMQ_EVENT_HANDSHAKE_FAILED_AUTH:
-				OnTransportDown("What answers on \"" + Name + "\" does not speak ZeroMQ.");
-				break;
-			case ZMQ_EVENT_DISCONNECTED:
-				bDisconnected = true;
-				PhaseDeadline = FClock::now() + LastWordsTime;
-				break;
-			default:
-				break;
-		}
+			OnNoHandshake();
+			break;
+		case ZMQ_EVENT_HANDSHAKE_FAILED_NO_DETAIL:
+			OnNoHandshake();
+			break;
+		case ZMQ_EVENT_DISCONNECTED:
+			bDisconnected = true;
+			PhaseDeadline = FClock::now() + LastWordsTime;
+			break;
+		default:
+			break;
 	}
+}
+
+/** An application with another secret key can read nothing of this editor's and so ends the connection in silence. */
+void FClientEndpoint::FImpl::OnNoHandshake()
+{
+	if (Keys)
+	{
+		OnKeysRejected("What answers on \"" + Name + "\" is no peer, or does not hold the other file of the pair.");
+		return;
+	}
+	OnTransportDown({ELinkReason::NotAPeer, "What answers on \"" + Name + "\" does not speak ZeroMQ."});
+}
+
+void FClientEndpoint::FImpl::OnKeysRejected(const std::string& What)
+{
+	TurnedAway({ELinkReason::KeysRejected, What}, MakeFault(EFault::KeysRefused, "", What));
 }
 
 void FClientEndpoint::FImpl::OnTransportUp()
@@ -183,30 +287,52 @@ void FClientEndpoint::FImpl::OnTransportUp()
 	{
 		return;
 	}
-	if (const FLinkFault Fault = CheckFolder(Address))
+	if (const FLinkReason Reason = CheckBeforeConnecting(Address))
 	{
-		TurnedAway(Fault);
+		TurnedAway(Reason, MakeFault(EFault::AddressRefused, "", Reason.What));
+		return;
+	}
+	// With keys the other end has shown who it is.
+	if (const FLinkFault Fault = Keys ? FLinkFault{} : CheckPeerUser(Descriptor))
+	{
+		TurnedAway(ReasonOf(Fault), Fault);
 		return;
 	}
 	Session = std::make_unique<FSession>(*Dealer, "", *Factory, EReceiver::Editor, Options.Limits, *this);
-	const FBytes Hello = EncodeHello({MinProtocolVersion, MaxProtocolVersion, Options.Program,
+	const FBytes Hello = EncodeHello({Options.Versions.Min, Options.Versions.Max, Options.Program,
 		Options.Limits.WindowBytes, Options.Limits.MaxPieceBytes});
 	zmq::message_t Part(Hello.data(), Hello.size());
 	SendFrame(*Dealer, "", {EFrame::Hello, 0, 0}, &Part);
 	const std::lock_guard Lock(Mutex);
-	SetPhase(EPhase::Greeting, "");
+	SetPhase(EPhase::Greeting, {});
 	PhaseDeadline = FClock::now() + GreetingTime;
 }
 
-void FClientEndpoint::FImpl::OnTransportDown(const std::string& Reason)
+FLinkReason FClientEndpoint::FImpl::LossReason() const
+{
+	if (ClosingReason)
+	{
+		return ClosingReason;
+	}
+	const bool bTellsItsEnd = Session && Session->ProtocolVersion() >= AnnouncingVersion;
+	return {ELinkReason::PeerLost, bTellsItsEnd
+									   ? "The garment application ended without a word, or has stopped answering."
+									   : "The garment application closed the connection."};
+}
+
+void FClientEndpoint::FImpl::OnTransportDown(const FLinkReason& Reason)
 {
 	Session.reset();
 	CloseSocket();
+	if (Recorder && Phase == EPhase::Up)
+	{
+		Recorder->Lost(Reason.What);
+	}
 	const std::lock_guard Lock(Mutex);
 	const bool bWasUp = Phase == EPhase::Up;
 	// After a link that worked, the next attempt may well find a restarted application; otherwise nobody is there.
 	SetPhase(bWasUp ? EPhase::Searching : EPhase::Absent, Reason);
-	PhaseDeadline = FClock::time_point::max();
+	PhaseDeadline = bWasUp ? FClock::time_point::max() : FClock::now() + Options.RetryTime;
 }
 
 void FClientEndpoint::FImpl::ReceiveAll()
@@ -237,21 +363,29 @@ void FClientEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 	if (Phase != EPhase::Up || (Prefix && (Prefix->Frame == EFrame::Refused || Prefix->Frame == EFrame::Welcome)))
 	{
 		ReceiveAnswer(Prefix, Parts);
+		return;
 	}
-	else if (bTooManyParts)
+	if (Recorder && !(Prefix && Prefix->Frame == EFrame::Credit))
 	{
-		Session->ReportFault(MakeFault(EFault::PartCount, "", "2 parts were expected; more came."));
+		Record(Parts);
+	}
+	FLinkFault Fatal;
+	if (bTooManyParts)
+	{
+		Fatal = Session->ReportFault(MakeFault(EFault::PartCount, "", "2 parts were expected; more came."));
 	}
 	else if (!Prefix)
 	{
-		Session->ReportFault(Fault);
+		Fatal = Session->ReportFault(Fault);
 	}
 	else
 	{
-		if (const FLinkFault Fatal = Session->Receive(*Prefix, Parts, 1))
-		{
-			TurnedAway(Fatal);
-		}
+		Fatal = Session->Receive(*Prefix, Parts, 1);
+	}
+	if (Fatal)
+	{
+		TurnedAway(
+			{ELinkReason::PeerMisbehaved, "The garment application breaks the protocol: " + Fatal.Message}, Fatal);
 	}
 }
 
@@ -261,8 +395,19 @@ void FClientEndpoint::FImpl::ReceiveAnswer(
 	if (Prefix && Prefix->Frame == EFrame::Refused && Parts.size() == 2)
 	{
 		const std::optional<FRefused> Refused = DecodeRefused(ViewOf(Parts[1]));
-		TurnedAway(Refused ? MakeFault(Refused->Code, "", Refused->Sentence.substr(0, Options.Limits.MaxPathBytes))
-						   : MakeFault(EFault::BadHello, "", "The garment application turned the editor away."));
+		const FLinkFault Fault =
+			Refused ? MakeFault(Refused->Code, "", Refused->Sentence.substr(0, Options.Limits.MaxPathBytes))
+					: MakeFault(EFault::BadHello, "", "The garment application turned the editor away.");
+		const FLinkReason Reason{
+			Fault.Code == EFault::VersionUnknown ? ELinkReason::VersionUnknown : ELinkReason::TurnedAway,
+			Fault.Message};
+		if (Fault.Code == EFault::Closing && Phase == EPhase::Up)
+		{
+			// What it still sends is taken; the end of the connection follows.
+			ClosingReason = ReasonOf(Fault);
+			return;
+		}
+		TurnedAway(Reason, Fault);
 		return;
 	}
 	const std::optional<FWelcome> Welcome = Prefix && Prefix->Frame == EFrame::Welcome && Parts.size() == 2
@@ -270,16 +415,17 @@ void FClientEndpoint::FImpl::ReceiveAnswer(
 												: std::nullopt;
 	if (!Welcome)
 	{
-		TurnedAway(MakeFault(
-			EFault::BadHello, "", "What answers on \"" + Name + "\" did not answer the greeting; it is no peer."));
+		const FLinkFault Fault = MakeFault(
+			EFault::BadHello, "", "What answers on \"" + Name + "\" did not answer the greeting; it is no peer.");
+		TurnedAway(ReasonOf(Fault), Fault);
 		return;
 	}
-	if (Welcome->Version < MinProtocolVersion || Welcome->Version > MaxProtocolVersion)
+	if (Welcome->Version < Options.Versions.Min || Welcome->Version > Options.Versions.Max)
 	{
-		TurnedAway(MakeFault(EFault::VersionUnknown, "",
+		const FLinkFault Fault = MakeFault(EFault::VersionUnknown, "",
 			"The garment application chose protocol version " + std::to_string(Welcome->Version) +
-				", the editor speaks " + std::to_string(MinProtocolVersion) + " to " +
-				std::to_string(MaxProtocolVersion) + "; update the older of the two."));
+				", the editor speaks " + ToString(Options.Versions) + "; update the older of the two.");
+		TurnedAway(ReasonOf(Fault), Fault);
 		return;
 	}
 	if (Phase != EPhase::Greeting)
@@ -288,19 +434,28 @@ void FClientEndpoint::FImpl::ReceiveAnswer(
 		return;
 	}
 	LastRefusal.clear();
-	Session->Open(Welcome->WindowBytes, Welcome->MaxPieceBytes);
+	Session->Open(Welcome->WindowBytes, Welcome->MaxPieceBytes, Welcome->Version);
+	const std::string Program = Welcome->Program.substr(0, Options.Limits.MaxNameBytes);
+	if (Recorder)
+	{
+		Recorder->Connected(Welcome->Version, Program);
+	}
 	const std::lock_guard Lock(Mutex);
-	SetPhase(EPhase::Up, Welcome->Program.substr(0, Options.Limits.MaxNameBytes));
+	SetUp(Program, Welcome->Version);
 	PhaseDeadline = FClock::time_point::max();
 }
 
 /** The connection cannot be used: told once for each reason, and tried again later. */
-void FClientEndpoint::FImpl::TurnedAway(const FLinkFault& Fault)
+void FClientEndpoint::FImpl::TurnedAway(const FLinkReason& Reason, const FLinkFault& Fault)
 {
 	Session.reset();
 	CloseSocket();
+	if (Recorder && Phase == EPhase::Up)
+	{
+		Recorder->Lost(Reason.What);
+	}
 	const std::lock_guard Lock(Mutex);
-	SetPhase(EPhase::Refused, Fault.Message);
+	SetPhase(EPhase::Refused, Reason);
 	PhaseDeadline = FClock::now() + Options.RetryTime * RefusedRetries;
 	if (LastRefusal != Fault.Message)
 	{
@@ -328,6 +483,10 @@ void FClientEndpoint::FImpl::Serve()
 	}
 	for (FEncodedItem& Item : Taken)
 	{
+		if (Recorder)
+		{
+			Recorder->Request(Item.Header);
+		}
 		Session->Outbox().Add(std::move(Item));
 	}
 	Session->DropStalled(FClock::now(), Options.StallTime);
@@ -355,11 +514,11 @@ void FClientEndpoint::FImpl::KeepTime()
 	Lock.unlock();
 	if (bDisconnected)
 	{
-		OnTransportDown("The garment application closed the connection.");
+		OnTransportDown(LossReason());
 	}
 	else if (Passed == EPhase::Greeting)
 	{
-		OnTransportDown("The garment application did not answer the greeting.");
+		OnTransportDown({ELinkReason::NoAnswer, "The garment application did not answer the greeting."});
 	}
 	else if (Passed == EPhase::Absent)
 	{
@@ -385,202 +544,6 @@ std::chrono::milliseconds FClientEndpoint::FImpl::WaitTime() const
 	}
 	const auto Left = std::chrono::ceil<std::chrono::milliseconds>(Deadline - FClock::now());
 	return std::max(Left, std::chrono::milliseconds(0));
-}
-
-void FClientEndpoint::FImpl::OnDecoded(FDecodedItem&& Item, double Milliseconds)
-{
-	FEvent Event;
-	Event.Cost = Item.Bytes;
-	if (Item.Item == EItem::Fault)
-	{
-		Event.Kind = EEvent::Fault;
-		Event.bFlag = true;
-		Event.Fault = std::move(Item.Fault);
-	}
-	else
-	{
-		Event.Report = {Item.Item, Item.ObjectType, Item.Bytes, Milliseconds, 0};
-		NoteReceived(Name, Event.Report);
-		Event.Item = std::move(Item);
-	}
-	const std::lock_guard Lock(Mutex);
-	Push(std::move(Event));
-}
-
-void FClientEndpoint::FImpl::OnDropped(const FLinkFault& Fault)
-{
-	FEvent Event;
-	Event.Kind = EEvent::Fault;
-	Event.Fault = Fault;
-	const std::lock_guard Lock(Mutex);
-	Push(std::move(Event));
-}
-
-ELinkState FClientEndpoint::FImpl::StateOf(EPhase Phase)
-{
-	switch (Phase)
-	{
-		case EPhase::Searching:
-			return ELinkState::Searching;
-		case EPhase::Absent:
-			return ELinkState::Absent;
-		case EPhase::Greeting:
-			return ELinkState::Greeting;
-		case EPhase::Up:
-			return ELinkState::Up;
-		case EPhase::Refused:
-			break;
-	}
-	return ELinkState::Refused;
-}
-
-void FClientEndpoint::FImpl::SetPhase(EPhase NewPhase, const std::string& Reason)
-{
-	const EPhase OldPhase = std::exchange(Phase, NewPhase);
-	Watched.Note(StateOf(NewPhase), Reason);
-	if (NewPhase == EPhase::Up)
-	{
-		bLossWaits = false;
-		FEvent Event;
-		Event.Kind = EEvent::Connection;
-		Event.bFlag = true;
-		Event.Reason = Reason;
-		Push(std::move(Event));
-		for (FHeldItem& Waiting : Held)
-		{
-			Commands.push_back(std::move(Waiting.Item));
-		}
-		Held.clear();
-		return;
-	}
-	if (OldPhase == EPhase::Up)
-	{
-		Commands.clear();
-		QueuedItems = 0;
-		PushLoss(Reason);
-	}
-	if (NewPhase == EPhase::Absent || NewPhase == EPhase::Refused)
-	{
-		AbsenceReason = Reason;
-		FailHeld(FClock::time_point::max());
-	}
-}
-
-/** Requests that have waited until then were asked of nobody. */
-void FClientEndpoint::FImpl::FailHeld(FClock::time_point Until)
-{
-	const std::size_t Failed = std::erase_if(Held, [Until](const FHeldItem& Item) { return Item.Deadline <= Until; });
-	if (Failed > 0)
-	{
-		PushLoss(AbsenceReason.empty() ? "No garment application serves \"" + Name + "\"." : AbsenceReason);
-	}
-}
-
-void FClientEndpoint::FImpl::PushLoss(const std::string& Reason)
-{
-	if (bLossWaits)
-	{
-		return;
-	}
-	bLossWaits = true;
-	FEvent Event;
-	Event.Kind = EEvent::Connection;
-	Event.Reason = Reason;
-	Push(std::move(Event));
-}
-
-bool FClientEndpoint::FImpl::IsBehind() const
-{
-	return WaitingCost > Options.Limits.MaxItemBytes || Events.size() > WaitingEvents;
-}
-
-void FClientEndpoint::FImpl::Push(FEvent&& Event)
-{
-	if (Event.Kind == EEvent::Fault && Events.size() > WaitingEvents)
-	{
-		return;
-	}
-	Event.Cost += EventBytes;
-	WaitingCost += Event.Cost;
-	Events.push_back(std::move(Event));
-	HasEvents.notify_one();
-	Watched.NoteArrival();
-}
-
-bool FClientEndpoint::FImpl::Send(FEncodedItem&& Item)
-{
-	{
-		const std::lock_guard Lock(Mutex);
-		switch (Phase)
-		{
-			case EPhase::Up:
-				if (QueuedItems + Commands.size() >= MaxQueuedItems)
-				{
-					return false;
-				}
-				Commands.push_back(std::move(Item));
-				break;
-			case EPhase::Searching:
-			case EPhase::Greeting:
-				Held.push_back({std::move(Item), FClock::now() + Options.ConnectGrace});
-				break;
-			case EPhase::Absent:
-			case EPhase::Refused:
-				PushLoss(AbsenceReason);
-				return false;
-		}
-	}
-	Waker.Wake();
-	return true;
-}
-
-std::size_t FClientEndpoint::FImpl::Poll(IClientHandler& Handler, std::chrono::milliseconds MaxWait)
-{
-	std::size_t Count = 0;
-	std::unique_lock Lock(Mutex);
-	if (MaxWait.count() > 0)
-	{
-		HasEvents.wait_for(Lock, MaxWait, [this] { return !Events.empty(); });
-	}
-	while (!bStopped && !Events.empty())
-	{
-		const bool bWasBehind = IsBehind();
-		FEvent Event = std::move(Events.front());
-		Events.pop_front();
-		bLossWaits = bLossWaits && !(Event.Kind == EEvent::Connection && !Event.bFlag);
-		WaitingCost -= Event.Cost;
-		const bool bRelease = bWasBehind && !IsBehind();
-		Lock.unlock();
-		if (bRelease)
-		{
-			Waker.Wake();
-		}
-		Deliver(Event, Handler);
-		++Count;
-		Lock.lock();
-	}
-	return Count;
-}
-
-void FClientEndpoint::FImpl::Deliver(FEvent& Event, IClientHandler& Handler)
-{
-	if (Event.Kind == EEvent::Connection)
-	{
-		Handler.OnConnectionChanged(Event.bFlag, Event.Reason);
-	}
-	else if (Event.Kind == EEvent::Fault)
-	{
-		Handler.OnFault(Event.Fault, Event.bFlag);
-	}
-	else if (Event.Item.Item == EItem::Availability)
-	{
-		Handler.OnAvailability(Event.Item.Availability);
-	}
-	else
-	{
-		FReceivedItem Item{Event.Item.Item, Event.Item.ObjectType, std::move(Event.Item.Record), Event.Report};
-		Handler.OnItem(Item);
-	}
 }
 
 } // namespace Zef

@@ -2,7 +2,11 @@
 /** The thread of an editor's endpoint, and the queues between it and the program. */
 #pragma once
 
+#include "KeyCheck.h"
 #include "LinkWatch.h"
+#include "OpenAddress.h"
+#include "ProgressMeter.h"
+#include "Recorder.h"
 #include "Session.h"
 #include "Zef/ClientEndpoint.h"
 
@@ -19,13 +23,16 @@ namespace Zef
 class FClientEndpoint::FImpl : public ISessionEvents
 {
 public:
-	FImpl(std::string InName, FAddress InAddress, std::shared_ptr<IRecordFactory> InFactory,
+	FImpl(std::string InName, FOpenAddress InAddress, std::shared_ptr<IRecordFactory> InFactory,
 		const FClientOptions& InOptions);
 	~FImpl() override;
 
-	void Start();
+	/** Begins the recording, when one is wanted, and starts the thread. */
+	FLinkFault Start();
 	void Stop();
 	bool IsConnected() const;
+	FLinkStatus Status() const { return Watched.Status(); }
+	FLinkFault FinishRecording();
 	const FClientOptions& ClientOptions() const { return Options; }
 	std::size_t Poll(IClientHandler& Handler, std::chrono::milliseconds MaxWait);
 	bool Send(FEncodedItem&& Item);
@@ -79,24 +86,32 @@ private:
 	void CloseSocket();
 	void TakeTurn();
 	void WatchConnection();
+	void OnTransportEvent(const FMonitor::FEvent& Event);
 	void OnTransportUp();
-	void OnTransportDown(const std::string& Reason);
+	void OnTransportDown(const FLinkReason& Reason);
+	void OnNoHandshake();
+	void OnKeysRejected(const std::string& What);
 	void ReceiveAll();
 	void Receive(std::vector<zmq::message_t>& Parts, bool bTooManyParts);
 	void ReceiveAnswer(const std::optional<FPrefix>& Prefix, const std::vector<zmq::message_t>& Parts);
-	void TurnedAway(const FLinkFault& Fault);
+	void TurnedAway(const FLinkReason& Reason, const FLinkFault& Fault);
+	FLinkReason NobodyServes() const;
+	FLinkReason LossReason() const;
+	void Record(const std::vector<zmq::message_t>& Parts);
 	void Serve();
 	void KeepTime();
 	std::chrono::milliseconds WaitTime() const;
 	void OnDecoded(FDecodedItem&& Item, double Milliseconds) override;
+	void OnTaken(EItem Item, std::uint64_t Bytes, bool bHeader, bool bDone) override;
 	void OnDropped(const FLinkFault& Fault) override;
 
 	static ELinkState StateOf(EPhase Phase);
 
 	// Under the mutex
-	void SetPhase(EPhase NewPhase, const std::string& Reason);
+	void SetPhase(EPhase NewPhase, const FLinkReason& Reason);
+	void SetUp(const std::string& Program, std::uint16_t Version);
 	void FailHeld(FClock::time_point Until);
-	void PushLoss(const std::string& Reason);
+	void PushLoss(const FLinkReason& Reason);
 	void Push(FEvent&& Event);
 	bool IsBehind() const;
 
@@ -104,13 +119,14 @@ private:
 
 	const std::string Name;
 	const FAddress Address;
+	const std::optional<FLinkKeys> Keys;
 	const std::shared_ptr<IRecordFactory> Factory;
 	const FClientOptions Options;
 
 	mutable std::mutex Mutex;
 	std::condition_variable HasEvents;
 	EPhase Phase = EPhase::Searching;
-	std::string AbsenceReason;
+	FLinkReason AbsenceReason;
 	std::deque<FEvent> Events;
 	std::uint64_t WaitingCost = 0;
 	bool bLossWaits = false; // a loss is among the events and nothing after it tells of a link
@@ -121,7 +137,12 @@ private:
 	// Of the thread
 	FClock::time_point PhaseDeadline = FClock::time_point::max();
 	bool bDisconnected = false; // the transport is gone; what it still delivered is taken first
+	FClock::time_point NextProbe{};
+	int Descriptor = -1;	   // of the connection
+	FLinkReason ClosingReason; // the application has said that it ends
 	std::string LastRefusal;
+	FProgressMeter Meter;
+	std::unique_ptr<FRecorder> Recorder;
 	std::unique_ptr<FSession> Session;
 
 	FWatchedLink Watched;

@@ -2,6 +2,7 @@
 #include "Decoder.h"
 #include "SequenceCheck.h"
 #include "Text.h"
+#include "Zef/Check.h"
 
 #include <cmath>
 
@@ -123,10 +124,38 @@ EDecode FItemDecoder::FImpl::ReadBody(const Wire::Item& Item)
 			Done.FaultItem = Report.item();
 			return CompleteSmall();
 		}
+		case EItem::UpdateAnnouncement:
+			return ReadAnnouncement(*Item.body_as_UpdateAnnouncement());
 		case EItem::None:
 			break;
 	}
 	return Refuse(EFault::UnknownItem, "", "The item is of no known kind.");
+}
+
+EDecode FItemDecoder::FImpl::ReadAnnouncement(const Wire::UpdateAnnouncement& Announcement)
+{
+	const auto* Objects = Announcement.objects();
+	for (flatbuffers::uoffset_t Index = 0; Objects != nullptr && Index < Objects->size(); ++Index)
+	{
+		const Wire::AnnouncedObject& Object = *Objects->Get(Index);
+		const std::string Path = "/Objects/" + std::to_string(Index) + "/ObjectType";
+		const auto ObjectType = static_cast<EObjectType>(Object.object_type());
+		if (!IsObjectType(ObjectType))
+		{
+			return Refuse(EFault::ObjectType, Path,
+				"2, 4, 8 or 16 was expected; " + std::to_string(Object.object_type()) + " came.");
+		}
+		for (const FAnnouncedObject& Former : Done.Announcement.Objects)
+		{
+			if (Former.ObjectType == ObjectType)
+			{
+				return Refuse(EFault::KeyTwice, Path,
+					"Each object type was expected once; " + std::to_string(Object.object_type()) + " came again.");
+			}
+		}
+		Done.Announcement.Objects.push_back({ObjectType, Object.bytes()});
+	}
+	return CompleteSmall();
 }
 
 EDecode FItemDecoder::FImpl::BeginMesh(

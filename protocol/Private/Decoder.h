@@ -37,6 +37,7 @@ private:
 	EDecode TakePiece(std::uint64_t Offset, FByteView Bytes);
 	EDecode ReadBody(const Wire::Item& Item);
 	EDecode BeginMesh(EObjectType ObjectType, const Wire::Mesh* Mesh, const Wire::JointSequence* Joints);
+	EDecode ReadAnnouncement(const Wire::UpdateAnnouncement& Announcement);
 	EDecode BeginFrame(const Wire::SequenceFrameReply& Frame);
 	EDecode EndSequence(const Wire::SequenceEndReply& End);
 	EDecode BeginPayload(std::vector<FArrayRule>&& Rules, FPackedJointSequence* Joints);

@@ -292,6 +292,20 @@ FEncodedItem EncodeAvailability(const FAvailability& Availability)
 	return Item;
 }
 
+FEncodedItem EncodeUpdateAnnouncement(const FUpdateAnnouncement& Announcement)
+{
+	FEncodedItem Item;
+	Item.Item = EItem::UpdateAnnouncement;
+	FBuilder Builder;
+	std::vector<flatbuffers::Offset<Wire::AnnouncedObject>> Objects;
+	for (const FAnnouncedObject& Object : Announcement.Objects)
+	{
+		Objects.push_back(Wire::CreateAnnouncedObject(Builder, ToWire(Object.ObjectType), Object.Bytes));
+	}
+	FinishHeader(Item, Builder, Wire::CreateUpdateAnnouncement(Builder, Builder.CreateVector(Objects)));
+	return Item;
+}
+
 FEncodedItem EncodeFault(const FLinkFault& Fault, std::uint64_t ItemNumber)
 {
 	FEncodedItem Item;

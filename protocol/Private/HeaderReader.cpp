@@ -75,6 +75,8 @@ EItem ItemOf(Wire::Body Body)
 			return EItem::Availability;
 		case Wire::Body::FaultReport:
 			return EItem::Fault;
+		case Wire::Body::UpdateAnnouncement:
+			return EItem::UpdateAnnouncement;
 		case Wire::Body::NONE:
 			break;
 	}

@@ -32,6 +32,8 @@ const char* ToString(EItem Item)
 			return "SequenceEnd";
 		case EItem::Availability:
 			return "Availability";
+		case EItem::UpdateAnnouncement:
+			return "UpdateAnnouncement";
 		case EItem::Fault:
 			return "Fault";
 		case EItem::None:

@@ -40,7 +40,7 @@ std::uint64_t AddLink(const std::string& Name, const std::string& Address)
 	FAllLinks& All = AllLinks();
 	const std::lock_guard Lock(All.Mutex);
 	const std::uint64_t Number = All.NextNumber++;
-	All.Links[Number] = {Name, Address, ELinkState::Searching, {}};
+	All.Links[Number] = {Name, Address, ELinkState::Searching, {}, {}, 0, {}};
 	return Number;
 }
 } // namespace
@@ -61,8 +61,9 @@ FWatchedLink::~FWatchedLink()
 	TellListener();
 }
 
-void FWatchedLink::Note(ELinkState State, const std::string& Detail)
+void FWatchedLink::Note(ELinkState State, const std::string& Program, const FLinkReason& Reason, std::uint16_t Version)
 {
+	const std::string Detail = Reason ? ToString(Reason) : Program;
 	{
 		FAllLinks& All = AllLinks();
 		const std::lock_guard Lock(All.Mutex);
@@ -73,8 +74,24 @@ void FWatchedLink::Note(ELinkState State, const std::string& Detail)
 		}
 		Status.State = State;
 		Status.Detail = Detail;
+		Status.Reason = Reason;
+		Status.Version = Version;
 	}
 	TellListener();
+}
+
+void FWatchedLink::NoteProgress(const FUpdateProgress& Progress)
+{
+	FAllLinks& All = AllLinks();
+	const std::lock_guard Lock(All.Mutex);
+	All.Links[Number].Progress = Progress;
+}
+
+FLinkStatus FWatchedLink::Status() const
+{
+	FAllLinks& All = AllLinks();
+	const std::lock_guard Lock(All.Mutex);
+	return All.Links[Number];
 }
 
 void FWatchedLink::NoteArrival()

@@ -17,7 +17,10 @@ public:
 	FWatchedLink& operator=(const FWatchedLink&) = delete;
 
 	/** From any thread. */
-	void Note(ELinkState State, const std::string& Detail);
+	void Note(ELinkState State, const std::string& Program, const FLinkReason& Reason, std::uint16_t Version);
+	/** Tells no listener: it comes with every piece. */
+	void NoteProgress(const FUpdateProgress& Progress);
+	FLinkStatus Status() const;
 	/** Something waits for Poll. From any thread. */
 	void NoteArrival();
 

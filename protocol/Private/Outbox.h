@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Zef/Encode.h"
+#include "Zef/Recording.h"
 #include "Zef/Wire.h"
 
 #include <cstdint>
@@ -18,6 +19,15 @@ struct FOutMessage
 {
 	FPrefix Prefix;
 	FChunk Body;
+	/** When not empty: the parts as they are, in place of the two above. */
+	std::vector<FChunk> Parts;
+};
+
+/** Messages that are sent as they were recorded. Item numbers go on from those of the connection. */
+struct FRecordedRun
+{
+	std::vector<FRecordedMessage> Messages;
+	std::shared_ptr<const void> Owner;
 };
 
 /** Items of one entry, given one after the other as there is room; nothing at the end. */
@@ -35,6 +45,7 @@ public:
 
 	void Add(FEncodedItem&& Item);
 	void Add(FItemSource&& Source);
+	void Add(FRecordedRun&& Run);
 
 	/** The next message, when the window has room for it. */
 	std::optional<FOutMessage> Next();
@@ -56,10 +67,13 @@ private:
 	{
 		std::optional<FEncodedItem> Item;
 		FItemSource Source;
+		FRecordedRun Run;
 		std::uint64_t FirstNumber = 0; // 0: nothing of it was sent
 	};
 
 	bool LoadItem();
+	bool HasRoom(std::size_t Size) const;
+	std::optional<FOutMessage> NextRecorded();
 	void DropItem();
 
 	std::deque<FEntry> Entries;
@@ -75,6 +89,11 @@ private:
 	std::size_t Chunk = 0;
 	std::size_t ChunkOffset = 0;
 	std::uint64_t Offset = 0;
+
+	// Place in the recorded run in front
+	std::size_t RunPlace = 0;
+	std::uint64_t RunShift = 0; // added to the recorded numbers, modulo 2^64
+	bool bRunNumbered = false;
 };
 
 } // namespace Zef

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ServedAddress.h"
 
+#include "OwnFile.h"
+
+#include <atomic>
 #include <cerrno>
+#include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -21,18 +26,33 @@ namespace Zef
 
 namespace
 {
-std::string LastError()
-{
-	return std::error_code(errno, std::generic_category()).message();
-}
-
 FLinkFault Taken(const std::string& Path)
 {
 	return MakeFault(EFault::AddressTaken, "",
 		"Another garment application serves \"" + Path + "\"; close it, or choose another channel.");
 }
 
+/** ZeroMQ's own choice for it would be a folder in the working directory, left there by a program that is killed. */
+constexpr const char* AnyName = "ipc://*";
+
 #ifndef _WIN32
+constexpr const char* FreeName = "free-";
+
+/** Removes the socket files of processes that are gone. */
+void RemoveLeftOver(const std::string& Folder)
+{
+	std::error_code Ignored;
+	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Folder, Ignored))
+	{
+		const std::string Name = Entry.path().filename().string();
+		const pid_t Process = Name.starts_with(FreeName) ? std::atoi(Name.c_str() + std::strlen(FreeName)) : 0;
+		if (Process > 0 && kill(Process, 0) != 0 && errno == ESRCH)
+		{
+			std::filesystem::remove(Entry.path(), Ignored);
+		}
+	}
+}
+
 /** True when somebody listens behind a socket file: an application that does not know of the lock. */
 bool Answers(const std::string& Path)
 {
@@ -81,8 +101,39 @@ FServedAddress::~FServedAddress()
 #endif
 }
 
+FLinkFault FServedAddress::TakeAnyName()
+{
+#ifdef _WIN32
+	return MakeFault(EFault::AddressRefused, "", "This system has no socket files; use tcp://127.0.0.1:*.");
+#else
+	static std::atomic<unsigned> Count{0};
+	FAddress Channel;
+	Channel.Folder = LinkFolder();
+	if (FLinkFault Fault = PrepareFolder(Channel))
+	{
+		return Fault;
+	}
+	RemoveLeftOver(Channel.Folder);
+	const std::string Name = FreeName + std::to_string(getpid()) + "-" + std::to_string(++Count) + ".sock";
+	TResult<FAddress> Found = AddressOfEndpoint("ipc://" + Channel.Folder + "/" + Name);
+	if (!Found)
+	{
+		return Found.Fault();
+	}
+	Address = std::move(*Found);
+	Address.Folder = Channel.Folder;
+	// No lock: the name is this process's own. What a process of the same number left is not served any more.
+	unlink(Address.SocketFile.c_str());
+	return {};
+#endif
+}
+
 FLinkFault FServedAddress::Take()
 {
+	if (Address.Endpoint == AnyName)
+	{
+		return TakeAnyName();
+	}
 	if (FLinkFault Fault = PrepareFolder(Address))
 	{
 		return Fault;

@@ -25,13 +25,16 @@ public:
 	/** Before binding: folder, lock, removal of a stale file. @return AddressRefused or AddressTaken, or code None */
 	FLinkFault Take();
 
-	/** Endpoint to bind. */
+	/** Endpoint to bind; known after Take. */
 	std::string Endpoint() const;
 
 	/** After binding: closes the socket file to others, or writes the port file. */
 	FLinkFault Publish(const std::string& BoundEndpoint);
 
 private:
+	/** A socket file of this process alone, in the folder of the channels. */
+	FLinkFault TakeAnyName();
+
 	FAddress Address;
 	int Lock = -1;
 	bool bPublished = false;

@@ -4,6 +4,8 @@
 #include "ServerLoop.h"
 #include "Zef/Check.h"
 
+#include <algorithm>
+
 namespace Zef
 {
 
@@ -50,7 +52,7 @@ FServerEndpoint::~FServerEndpoint() = default;
 namespace
 {
 template <class TImpl>
-TResult<std::unique_ptr<TImpl>> Start(TResult<FAddress>&& Address, const FServerOptions& Options)
+TResult<std::unique_ptr<TImpl>> Start(TResult<FOpenAddress>&& Address, const FServerOptions& Options)
 {
 	if (!Address)
 	{
@@ -68,7 +70,8 @@ TResult<std::unique_ptr<TImpl>> Start(TResult<FAddress>&& Address, const FServer
 TResult<std::unique_ptr<FServerEndpoint>> FServerEndpoint::Open(
 	const std::string& ChannelName, const FServerOptions& Options)
 {
-	auto Started = Start<FImpl>(AddressOfChannel(ChannelName), Options);
+	auto Started =
+		Start<FImpl>(OpenAddress(ChannelName, std::nullopt, Options.KeyFile, ELinkEnd::Application), Options);
 	if (!Started)
 	{
 		return Started.Fault();
@@ -79,7 +82,7 @@ TResult<std::unique_ptr<FServerEndpoint>> FServerEndpoint::Open(
 TResult<std::unique_ptr<FServerEndpoint>> FServerEndpoint::OpenEndpoint(
 	const std::string& Endpoint, const FServerOptions& Options)
 {
-	auto Started = Start<FImpl>(AddressOfEndpoint(Endpoint), Options);
+	auto Started = Start<FImpl>(OpenAddress("", Endpoint, Options.KeyFile, ELinkEnd::Application), Options);
 	if (!Started)
 	{
 		return Started.Fault();
@@ -100,6 +103,50 @@ std::size_t FServerEndpoint::Poll(IServerHandler& Handler, std::chrono::millisec
 void FServerEndpoint::Wake()
 {
 	Impl->WakePoll();
+}
+
+bool FServerEndpoint::SendUpdate(
+	FClientId Client, const std::vector<FUpdateObject>& Objects, std::vector<FLinkFault>* OutFaults)
+{
+	const FServerOptions& Options = Impl->ServerOptions();
+	std::vector<FLinkFault> Faults;
+	std::vector<FEncodedItem> Items;
+	FUpdateAnnouncement Announcement;
+	for (const FUpdateObject& Object : Objects)
+	{
+		Faults.push_back(CheckReply(Object.ObjectType, Object.Mesh.get(), Options.Limits));
+		if (!Faults.back() &&
+			std::ranges::count(Announcement.Objects, Object.ObjectType, &FAnnouncedObject::ObjectType) > 0)
+		{
+			Faults.back() =
+				MakeFault(EFault::KeyTwice, "/ObjectType", "Each object type was expected once in an update.");
+		}
+		if (!Faults.back())
+		{
+			FEncodedItem& Item =
+				Items.emplace_back(EncodeSurfaceMesh(Object.ObjectType, Object.Mesh, Options.PieceBytes));
+			Announcement.Objects.push_back({Object.ObjectType, Item.Header.size() + Item.PayloadBytes});
+		}
+	}
+	bool bSent =
+		Impl->VersionOf(Client) < AnnouncingVersion || Impl->Send(Client, EncodeUpdateAnnouncement(Announcement));
+	for (FEncodedItem& Item : Items)
+	{
+		bSent = bSent && Impl->Send(Client, std::move(Item));
+	}
+	for (FLinkFault& Fault : Faults)
+	{
+		if (!bSent && !Fault)
+		{
+			GoneFault(false, &Fault);
+		}
+	}
+	const bool bAll = bSent && Items.size() == Objects.size();
+	if (OutFaults != nullptr)
+	{
+		*OutFaults = std::move(Faults);
+	}
+	return bAll;
 }
 
 bool FServerEndpoint::SendSurfaceMesh(
@@ -162,6 +209,12 @@ bool FServerEndpoint::SendMeshSequence(FClientId Client, EObjectType ObjectType,
 bool FServerEndpoint::SendAvailability(FClientId Client, const FAvailability& Availability)
 {
 	return Impl->Send(Client, EncodeAvailability(Availability));
+}
+
+bool FServerEndpoint::SendRecorded(
+	FClientId Client, const std::vector<FRecordedMessage>& Messages, std::shared_ptr<const void> Owner)
+{
+	return Impl->Send(Client, FRecordedRun{Messages, std::move(Owner)});
 }
 
 bool FServerEndpoint::SendFault(FClientId Client, const FLinkFault& Fault)

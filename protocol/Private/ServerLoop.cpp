@@ -15,18 +15,17 @@ constexpr int MessagesInARow = 256;
 /** How long a connection that has ended is still listened to. */
 constexpr std::chrono::milliseconds LastWordsTime(20);
 
-/** What an event costs beside its arrays. */
-constexpr std::uint64_t EventBytes = 256;
-
-/** When so many events wait for the program, nobody is credited, and further reports of faults are left out. */
-constexpr std::size_t WaitingEvents = 4096;
+/** How long an editor that was refused may take to read why. */
+constexpr std::chrono::milliseconds RefusedTime(1000);
 } // namespace
 
-FServerEndpoint::FImpl::FImpl(FAddress Address, const FServerOptions& InOptions)
+FServerEndpoint::FImpl::FImpl(FOpenAddress Address, const FServerOptions& InOptions)
 	: Options(InOptions)
-	, Served(std::move(Address))
+	, Served(std::move(Address.Address))
+	, Keys(std::move(Address.Keys))
 	, Router(Context, zmq::socket_type::router)
 	, Monitor(Context, Router)
+	, Guard(Options.Limits, Options.GreetingTime, !Keys)
 	, Waker(Context)
 {
 }
@@ -47,7 +46,12 @@ FLinkFault FServerEndpoint::FImpl::Start()
 	{
 		return Fault;
 	}
-	ConfigureSocket(Router, Options.Limits);
+	ConfigureSocket(Router, Options.Limits, Options.Heartbeat);
+	if (Keys)
+	{
+		KeyCheck.emplace(Context, *Keys);
+		UseKeysAsApplication(Router, *Keys);
+	}
 	Router.set(zmq::sockopt::router_mandatory, true);
 	try
 	{
@@ -72,11 +76,13 @@ void FServerEndpoint::FImpl::Run()
 	while (!bStop)
 	{
 		zmq::pollitem_t Items[] = {{Router.handle(), 0, ZMQ_POLLIN, 0}, {Monitor.Socket().handle(), 0, ZMQ_POLLIN, 0},
-			{Waker.Socket().handle(), 0, ZMQ_POLLIN, 0}};
-		WaitForSockets(Items, std::size(Items), WaitTime());
+			{Waker.Socket().handle(), 0, ZMQ_POLLIN, 0},
+			{KeyCheck ? KeyCheck->Socket().handle() : nullptr, 0, ZMQ_POLLIN, 0}};
+		WaitForSockets(Items, KeyCheck ? std::size(Items) : std::size(Items) - 1, WaitTime());
 		Waker.Clear();
 		try
 		{
+			AnswerKeys();
 			TakeCommands();
 			ReceiveAll();
 			Serve();
@@ -87,11 +93,46 @@ void FServerEndpoint::FImpl::Run()
 			Waker.Wake();
 		}
 	}
+	SayGoodbye();
+}
+
+/** Tells the editors that this is no crash. */
+void FServerEndpoint::FImpl::SayGoodbye()
+{
+	const FBytes Refused = EncodeRefused(
+		{EFault::Closing, "The garment application was closed.", Options.Versions.Min, Options.Versions.Max});
+	for (auto& [Identity, Client] : Clients)
+	{
+		if (Client->Session && !Client->bRefused && !Client->bClosing &&
+			Client->Session->ProtocolVersion() >= AnnouncingVersion)
+		{
+			zmq::message_t Part(Refused.data(), Refused.size());
+			SendFrame(Router, Identity, {EFrame::Refused, 0, 0}, &Part);
+		}
+	}
+}
+
+void FServerEndpoint::FImpl::AnswerKeys()
+{
+	if (KeyCheck && KeyCheck->Answer() > 0)
+	{
+		Drop(0, MakeFault(EFault::KeysRefused, "", "An editor with a key that is not admitted was turned away."));
+	}
+}
+
+/** Tells the program that something was dropped. */
+void FServerEndpoint::FImpl::Drop(FClientId Client, const FLinkFault& Fault)
+{
+	FEvent Event;
+	Event.Kind = EEvent::Dropped;
+	Event.Client = Client;
+	Event.Fault = Fault;
+	Push(std::move(Event));
 }
 
 std::chrono::milliseconds FServerEndpoint::FImpl::WaitTime() const
 {
-	FSession::FClock::time_point Deadline = FSession::FClock::time_point::max();
+	FSession::FClock::time_point Deadline = Guard.Deadline();
 	for (const auto& [Identity, Client] : Clients)
 	{
 		if (Client->Session)
@@ -133,9 +174,13 @@ void FServerEndpoint::FImpl::TakeCommands()
 		{
 			Client->Session->Outbox().Add(std::move(*Command.Item));
 		}
-		else
+		else if (Command.Source)
 		{
 			Client->Session->Outbox().Add(std::move(Command.Source));
+		}
+		else
+		{
+			Client->Session->Outbox().Add(std::move(Command.Run));
 		}
 	}
 }
@@ -170,6 +215,10 @@ void FServerEndpoint::FImpl::WatchConnections()
 	FMonitor::FEvent Event;
 	while (Monitor.Next(Event))
 	{
+		if (const FLinkFault Fault = Guard.OnEvent(Event))
+		{
+			Drop(0, Fault);
+		}
 		if (Event.Event != ZMQ_EVENT_DISCONNECTED)
 		{
 			continue;
@@ -217,10 +266,15 @@ void FServerEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 	auto Found = Clients.find(Identity);
 	if (Found == Clients.end())
 	{
+		const int Descriptor = DescriptorOf(Parts.back());
+		if (Guard.IsCut(Descriptor))
+		{
+			return;
+		}
 		auto Made = std::make_unique<FClient>(*this);
 		Made->Id = ++LastId;
 		Made->Identity = Identity;
-		Made->Descriptor = DescriptorOf(Parts.back());
+		Made->Descriptor = Descriptor;
 		Found = Clients.emplace(std::move(Identity), std::move(Made)).first;
 	}
 	FClient& Client = *Found->second;
@@ -242,24 +296,27 @@ void FServerEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bT
 		}
 		return;
 	}
+	FLinkFault Fatal;
 	if (bTooManyParts || Parts.size() < 2)
 	{
-		Client.Session->ReportFault(MakeFault(EFault::PartCount, "", "2 parts were expected; more or fewer came."));
+		Fatal =
+			Client.Session->ReportFault(MakeFault(EFault::PartCount, "", "2 parts were expected; more or fewer came."));
 	}
 	else if (!Prefix)
 	{
-		Client.Session->ReportFault(Fault);
+		Fatal = Client.Session->ReportFault(Fault);
 	}
 	else if (Prefix->Frame == EFrame::Hello)
 	{
-		Refuse(Client, EFault::BadHello, "Hello came twice on one connection.");
+		Fatal = MakeFault(EFault::BadHello, "", "Hello came twice on one connection.");
 	}
 	else
 	{
-		if (const FLinkFault Fatal = Client.Session->Receive(*Prefix, Parts, 2))
-		{
-			Refuse(Client, Fatal.Code, Fatal.Message);
-		}
+		Fatal = Client.Session->Receive(*Prefix, Parts, 2);
+	}
+	if (Fatal)
+	{
+		Refuse(Client, Fatal.Code, Fatal.Message);
 	}
 }
 
@@ -271,14 +328,14 @@ void FServerEndpoint::FImpl::Greet(FClient& Client, FByteView Body)
 		Refuse(Client, EFault::BadHello, "The greeting cannot be read.");
 		return;
 	}
-	const std::uint16_t Version =
-		CommonVersion(Hello->MinVersion, Hello->MaxVersion, MinProtocolVersion, MaxProtocolVersion);
+	const FVersionRange& Own = Options.Versions;
+	const FVersionRange Theirs{Hello->MinVersion, Hello->MaxVersion};
+	const std::uint16_t Version = CommonVersion(Theirs.Min, Theirs.Max, Own.Min, Own.Max);
 	if (Version == 0)
 	{
 		Refuse(Client, EFault::VersionUnknown,
-			"The garment application speaks protocol versions " + std::to_string(MinProtocolVersion) + " to " +
-				std::to_string(MaxProtocolVersion) + ", the editor " + std::to_string(Hello->MinVersion) + " to " +
-				std::to_string(Hello->MaxVersion) + "; update the older of the two.");
+			"The garment application speaks protocol version " + ToString(Own) + ", the editor " + ToString(Theirs) +
+				"; update the older of the two.");
 		return;
 	}
 	std::size_t Served = 0;
@@ -303,10 +360,11 @@ void FServerEndpoint::FImpl::Greet(FClient& Client, FByteView Body)
 	Client.bGreeted = true;
 	Client.Session = std::make_unique<FSession>(
 		Router, Client.Identity, Factory, EReceiver::GarmentApplication, Options.Limits, Client);
-	Client.Session->Open(Hello->WindowBytes, Hello->MaxPieceBytes);
+	Client.Session->Open(Hello->WindowBytes, Hello->MaxPieceBytes, Version);
+	Guard.Keep(Client.Descriptor);
 	{
 		const std::lock_guard Lock(Mutex);
-		Infos.emplace(Client.Id, FClientInfo());
+		Infos[Client.Id].Version = Version;
 	}
 	FEvent Event;
 	Event.Kind = EEvent::Connected;
@@ -317,7 +375,7 @@ void FServerEndpoint::FImpl::Greet(FClient& Client, FByteView Body)
 
 void FServerEndpoint::FImpl::Refuse(FClient& Client, EFault Code, const std::string& Sentence)
 {
-	const FBytes Refused = EncodeRefused({Code, Sentence, MinProtocolVersion, MaxProtocolVersion});
+	const FBytes Refused = EncodeRefused({Code, Sentence, Options.Versions.Min, Options.Versions.Max});
 	zmq::message_t Part(Refused.data(), Refused.size());
 	const bool bThere = SendFrame(Router, Client.Identity, {EFrame::Refused, 0, 0}, &Part);
 	Client.bRefused = true;
@@ -325,17 +383,15 @@ void FServerEndpoint::FImpl::Refuse(FClient& Client, EFault Code, const std::str
 	{
 		Close(Client);
 	}
-	FEvent Event;
-	Event.Kind = EEvent::Dropped;
-	Event.Client = Client.Id;
-	Event.Fault = MakeFault(Code, "", Sentence);
-	Push(std::move(Event));
+	Guard.CutAt(Client.Descriptor, FSession::FClock::now() + RefusedTime);
+	Drop(Client.Id, MakeFault(Code, "", Sentence));
 }
 
 void FServerEndpoint::FImpl::Serve()
 {
 	const bool bHold = IsHolding();
 	const FSession::FClock::time_point Now = FSession::FClock::now();
+	Guard.CutOverdue(Now);
 	for (auto& [Identity, Client] : Clients)
 	{
 		if (!Client->Session || Client->bClosing)
@@ -383,172 +439,6 @@ FServerEndpoint::FImpl::FClient* FServerEndpoint::FImpl::Find(FClientId Id)
 		}
 	}
 	return nullptr;
-}
-
-bool FServerEndpoint::FImpl::IsHolding() const
-{
-	const std::lock_guard Lock(Mutex);
-	return IsBehind();
-}
-
-bool FServerEndpoint::FImpl::IsBehind() const
-{
-	return WaitingCost > Options.Limits.MaxItemBytes || Events.size() > WaitingEvents;
-}
-
-void FServerEndpoint::FImpl::FClient::OnDecoded(FDecodedItem&& Item, double)
-{
-	FEvent Event;
-	Event.Kind = EEvent::Decoded;
-	Event.Client = Id;
-	Event.Cost = Item.Bytes;
-	Event.Item = std::move(Item);
-	Owner.Push(std::move(Event));
-}
-
-void FServerEndpoint::FImpl::FClient::OnDropped(const FLinkFault& Fault)
-{
-	FEvent Event;
-	Event.Kind = EEvent::Dropped;
-	Event.Client = Id;
-	Event.Fault = Fault;
-	Owner.Push(std::move(Event));
-}
-
-void FServerEndpoint::FImpl::Push(FEvent&& Event)
-{
-	const std::lock_guard Lock(Mutex);
-	if (Event.Kind == EEvent::Dropped && Events.size() > WaitingEvents)
-	{
-		return;
-	}
-	Event.Cost += EventBytes;
-	WaitingCost += Event.Cost;
-	Events.push_back(std::move(Event));
-	HasEvents.notify_one();
-}
-
-std::size_t FServerEndpoint::FImpl::Poll(IServerHandler& Handler, std::chrono::milliseconds MaxWait)
-{
-	std::size_t Count = 0;
-	std::unique_lock Lock(Mutex);
-	HasEvents.wait_for(Lock, MaxWait, [this] { return !Events.empty() || bWakePoll; });
-	bWakePoll = false;
-	while (!Events.empty())
-	{
-		const bool bWasBehind = IsBehind();
-		FEvent Event = std::move(Events.front());
-		Events.pop_front();
-		WaitingCost -= Event.Cost;
-		const bool bRelease = bWasBehind && !IsBehind();
-		Lock.unlock();
-		if (bRelease)
-		{
-			Waker.Wake();
-		}
-		Deliver(Event, Handler);
-		++Count;
-		Lock.lock();
-	}
-	return Count;
-}
-
-void FServerEndpoint::FImpl::Deliver(FEvent& Event, IServerHandler& Handler)
-{
-	switch (Event.Kind)
-	{
-		case EEvent::Connected:
-			Handler.OnClientConnected(Event.Client, Event.Text);
-			return;
-		case EEvent::Gone:
-			Handler.OnClientGone(Event.Client, Event.Text);
-			return;
-		case EEvent::Dropped:
-			Handler.OnFault(Event.Client, Event.Fault, false);
-			return;
-		case EEvent::Decoded:
-			break;
-	}
-	FDecodedItem& Item = Event.Item;
-	switch (Item.Item)
-	{
-		case EItem::Enable:
-			Handler.OnEnable(Event.Client, Item.bEnabled);
-			break;
-		case EItem::RequestUpdate:
-			Handler.OnUpdateRequested(Event.Client, Item.Options);
-			break;
-		case EItem::RequestAnimation:
-			Handler.OnAnimationRequested(Event.Client, Item.Info, Item.Options);
-			break;
-		case EItem::RequestAvailability:
-			Handler.OnAvailabilityRequested(Event.Client);
-			break;
-		case EItem::SendJointAnimation:
-		{
-			auto& Record = static_cast<FReceivedRecord&>(*Item.Record);
-			auto Animation = std::make_shared<FJointAnimation>();
-			Animation->Mesh = std::move(Record.SurfaceMesh);
-			Animation->Sequence = std::move(Record.Sequence);
-			Handler.OnJointAnimation(Event.Client, Item.Info, std::move(Animation));
-			break;
-		}
-		case EItem::Fault:
-			Handler.OnFault(Event.Client, Item.Fault, true);
-			break;
-		default:
-			break;
-	}
-}
-
-void FServerEndpoint::FImpl::WakePoll()
-{
-	const std::lock_guard Lock(Mutex);
-	bWakePoll = true;
-	HasEvents.notify_all();
-}
-
-bool FServerEndpoint::FImpl::IsConnected(FClientId Client) const
-{
-	const std::lock_guard Lock(Mutex);
-	return Infos.contains(Client);
-}
-
-bool FServerEndpoint::FImpl::Send(FClientId Client, FEncodedItem&& Item)
-{
-	{
-		const std::lock_guard Lock(Mutex);
-		const auto Info = Infos.find(Client);
-		if (Info == Infos.end())
-		{
-			return false;
-		}
-		Info->second.CommandBytes += Item.PayloadBytes;
-		Commands.push_back({Client, std::move(Item), {}});
-	}
-	Waker.Wake();
-	return true;
-}
-
-bool FServerEndpoint::FImpl::Send(FClientId Client, FItemSource&& Source)
-{
-	{
-		const std::lock_guard Lock(Mutex);
-		if (!Infos.contains(Client))
-		{
-			return false;
-		}
-		Commands.push_back({Client, std::nullopt, std::move(Source)});
-	}
-	Waker.Wake();
-	return true;
-}
-
-std::uint64_t FServerEndpoint::FImpl::QueuedBytes(FClientId Client) const
-{
-	const std::lock_guard Lock(Mutex);
-	const auto Info = Infos.find(Client);
-	return Info == Infos.end() ? 0 : Info->second.CommandBytes + Info->second.OutboxBytes;
 }
 
 } // namespace Zef

@@ -2,6 +2,9 @@
 /** The thread of a garment application's endpoint, and the queues between it and the program. */
 #pragma once
 
+#include "ConnectionGuard.h"
+#include "KeyCheck.h"
+#include "OpenAddress.h"
 #include "ServedAddress.h"
 #include "Session.h"
 #include "Zef/RecordPool.h"
@@ -21,7 +24,7 @@ namespace Zef
 class FServerEndpoint::FImpl
 {
 public:
-	FImpl(FAddress Address, const FServerOptions& InOptions);
+	FImpl(FOpenAddress Address, const FServerOptions& InOptions);
 	~FImpl();
 
 	/** Binds and starts the thread. */
@@ -36,6 +39,9 @@ public:
 	bool IsConnected(FClientId Client) const;
 	bool Send(FClientId Client, FEncodedItem&& Item);
 	bool Send(FClientId Client, FItemSource&& Source);
+	bool Send(FClientId Client, FRecordedRun&& Run);
+	/** Of the protocol; 0 when the client is gone. */
+	std::uint16_t VersionOf(FClientId Client) const;
 	std::uint64_t QueuedBytes(FClientId Client) const;
 
 private:
@@ -85,16 +91,20 @@ private:
 		FClientId Client = 0;
 		std::optional<FEncodedItem> Item;
 		FItemSource Source;
+		FRecordedRun Run;
 	};
 
 	struct FClientInfo
 	{
 		std::uint64_t CommandBytes = 0;
 		std::uint64_t OutboxBytes = 0;
+		std::uint16_t Version = 0;
 	};
 
 	// On the thread
 	void Run();
+	void AnswerKeys();
+	void SayGoodbye();
 	void TakeCommands();
 	void ReceiveAll();
 	void Receive(std::vector<zmq::message_t>& Parts, bool bTooManyParts);
@@ -113,11 +123,13 @@ private:
 	bool IsBehind() const;
 
 	// From the thread to the program
+	void Drop(FClientId Client, const FLinkFault& Fault);
 	void Push(FEvent&& Event);
 	static void Deliver(FEvent& Event, IServerHandler& Handler);
 
 	const FServerOptions Options;
 	FServedAddress Served;
+	const std::optional<FLinkKeys> Keys;
 	std::string BoundEndpoint;
 	FRecordFactory Factory;
 	std::unordered_map<std::string, std::unique_ptr<FClient>> Clients; // by identity
@@ -135,6 +147,8 @@ private:
 	zmq::context_t Context;
 	zmq::socket_t Router;
 	FMonitor Monitor;
+	std::optional<FKeyCheck> KeyCheck;
+	FConnectionGuard Guard;
 	FWaker Waker;
 	std::thread Thread;
 };

@@ -11,18 +11,47 @@ FSession::FSession(zmq::socket_t& InSocket, std::string InIdentity, IRecordFacto
 	, WindowBytes(Limits.WindowBytes)
 	, Events(InEvents)
 	, Decoder(Factory, Receiver, Limits)
+	, bTakesRequests(Receiver == EReceiver::GarmentApplication)
+	, Requests(Limits.MaxRequestsPerSecond)
+	, Faults(Limits.MaxFaultsPerSecond)
 {
 }
 
-void FSession::Open(std::uint64_t PeerWindowBytes, std::uint32_t PeerMaxPieceBytes)
+void FSession::Open(std::uint64_t PeerWindowBytes, std::uint32_t PeerMaxPieceBytes, std::uint16_t InVersion)
 {
+	Version = InVersion;
 	Out.Open(PeerWindowBytes, PeerMaxPieceBytes);
 }
 
-void FSession::ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber)
+FLinkFault FSession::CountFault(FClock::time_point Now)
 {
+	return Faults.Take(Now) ? FLinkFault{}
+							: MakeFault(EFault::RateExceeded, "",
+								  "More messages had to be refused than this end takes; the connection was closed.");
+}
+
+FLinkFault FSession::ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber)
+{
+	if (FLinkFault Fatal = CountFault(FClock::now()))
+	{
+		return Fatal;
+	}
 	Out.Add(EncodeFault(Fault, ItemNumber));
 	Events.OnDropped(Fault);
+	return {};
+}
+
+FLinkFault FSession::TakeCredit(std::uint64_t TotalBytes)
+{
+	if (!Out.Credit(TotalBytes))
+	{
+		return ReportFault(
+			MakeFault(EFault::BadPrefix, "", "A credit of " + std::to_string(TotalBytes) + " bytes was never sent."));
+	}
+	// One that says what was known is harmless, many are a flood.
+	const bool bNew = TotalBytes != LastCredit;
+	LastCredit = TotalBytes;
+	return bNew ? FLinkFault{} : CountFault(FClock::now());
 }
 
 FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart)
@@ -30,20 +59,23 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 	const std::size_t Expected = Prefix.Frame == EFrame::Credit ? 0 : 1;
 	if (Parts.size() - FirstPart != Expected)
 	{
-		ReportFault(MakeFault(EFault::PartCount, "",
-						std::to_string(Expected + 1) + " parts were expected; " +
-							std::to_string(Parts.size() - FirstPart + 1) + " came."),
+		return ReportFault(MakeFault(EFault::PartCount, "",
+							   std::to_string(Expected + 1) + " parts were expected; " +
+								   std::to_string(Parts.size() - FirstPart + 1) + " came."),
 			Prefix.Item);
-		return {};
 	}
 	if (Prefix.Frame == EFrame::Credit)
 	{
+<<<<<<< HEAD
 		if (!Out.Credit(Prefix.Offset))
 		{
 			ReportFault(MakeFault(EFault::BadPrefix, "",
 				"A credit for what was sent was expected; one of " + std::to_string(Prefix.Offset) + " bytes came."));
 		}
 		return {};
+=======
+		return TakeCredit(Prefix.Offset);
+>>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
 	}
 	const FByteView Body = ViewOf(Parts[FirstPart]);
 	const std::uint64_t UnderWay = Taken - Credited;
@@ -57,40 +89,65 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 	LastArrival = FClock::now();
 	if (Prefix.Frame == EFrame::Item)
 	{
+		if (bTakesRequests && !Requests.Take(LastArrival))
+		{
+			return MakeFault(
+				EFault::RateExceeded, "", "Requests came faster than this end takes them; the connection was closed.");
+		}
 		ItemStart = LastArrival;
 		const EDecode Result = Decoder.Header(Prefix.Item, Body);
 		std::uint64_t CutOffItem = 0;
 		if (const FLinkFault CutOff = Decoder.TakeTruncation(CutOffItem))
 		{
-			ReportFault(CutOff, CutOffItem);
+			if (FLinkFault Fatal = ReportFault(CutOff, CutOffItem))
+			{
+				return Fatal;
+			}
 		}
-		HandleResult(Result);
+		Events.OnTaken(Decoder.CurrentItem(), Body.size(), true, Result != EDecode::More);
+		return HandleResult(Result, Prefix);
 	}
-	else if (Prefix.Frame == EFrame::Piece)
+	if (Prefix.Frame == EFrame::Piece)
 	{
-		HandleResult(Decoder.Piece(Prefix.Item, Prefix.Offset, Body));
+		const EDecode Result = Decoder.Piece(Prefix.Item, Prefix.Offset, Body);
+		if (Result != EDecode::Ignored)
+		{
+			Events.OnTaken(Decoder.CurrentItem(), Body.size(), false, Result != EDecode::More);
+		}
+		return HandleResult(Result, Prefix);
 	}
+<<<<<<< HEAD
 	else
 	{
 		ReportFault(
 			MakeFault(EFault::UnknownFrame, "", "An item, a piece or credit was expected; a greeting came again."));
 	}
 	return {};
+=======
+	return ReportFault(MakeFault(EFault::UnknownFrame, "", "A greeting came on a connection that was greeted."));
+>>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
 }
 
-void FSession::HandleResult(EDecode Result)
+FLinkFault FSession::HandleResult(EDecode Result, const FPrefix& Prefix)
 {
 	if (Result == EDecode::Refused)
 	{
-		ReportFault(Decoder.Fault(), Decoder.FaultItem());
-		return;
+		return ReportFault(Decoder.Fault(), Decoder.FaultItem());
 	}
 	if (Result != EDecode::Complete)
 	{
 		SequenceStart = Decoder.CurrentItem() == EItem::SequenceBegin ? ItemStart : SequenceStart;
-		return;
+		return {};
 	}
 	FDecodedItem Item = Decoder.Take();
+	if (Item.Item == EItem::UpdateAnnouncement && Version < AnnouncingVersion)
+	{
+		return ReportFault(MakeFault(EFault::UnknownItem, "",
+							   std::string("An item of protocol version ") + std::to_string(Version) +
+								   " was expected; UpdateAnnouncement came, which begins with version " +
+								   std::to_string(AnnouncingVersion) + "."),
+			Prefix.Item);
+	}
 	if (Item.Item == EItem::Fault)
 	{
 		Out.Cancel(Item.FaultItem);
@@ -98,12 +155,21 @@ void FSession::HandleResult(EDecode Result)
 	const FClock::time_point Start = Item.Item == EItem::SequenceBegin ? SequenceStart : ItemStart;
 	const std::chrono::duration<double, std::milli> Elapsed = FClock::now() - Start;
 	Events.OnDecoded(std::move(Item), Elapsed.count());
+	return {};
 }
 
 bool FSession::Pump()
 {
 	while (std::optional<FOutMessage> Message = Out.Next())
 	{
+		if (!Message->Parts.empty())
+		{
+			if (!SendParts(Socket, Identity, Message->Parts))
+			{
+				return false;
+			}
+			continue;
+		}
 		zmq::message_t Body = MakePart(Message->Body);
 		if (!SendFrame(Socket, Identity, Message->Prefix, &Body))
 		{
@@ -129,8 +195,15 @@ void FSession::DropStalled(FClock::time_point Now, std::chrono::milliseconds Sta
 	{
 		return;
 	}
+<<<<<<< HEAD
 	const FLinkFault Fault = Decoder.Abandon(
 		EFault::Stalled, "A piece was expected; none came for " + std::to_string(StallTime.count()) + " milliseconds.");
+=======
+	const FLinkFault Fault =
+		Decoder.Abandon(EFault::Stalled, "No piece came for " + std::to_string(StallTime.count()) + " milliseconds.");
+	Events.OnTaken(Decoder.CurrentItem(), 0, false, true);
+	// Stalls are too slow for a flood.
+>>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
 	ReportFault(Fault, Decoder.FaultItem());
 }
 

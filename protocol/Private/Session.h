@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Outbox.h"
+#include "RateLimit.h"
 #include "Sockets.h"
 #include "Zef/Decode.h"
 
@@ -18,6 +19,9 @@ public:
 	virtual ~ISessionEvents() = default;
 
 	virtual void OnDecoded(FDecodedItem&& Item, double Milliseconds) = 0;
+	/** So many bytes of an item have been taken. @param bHeader  they begin it; @param bDone  nothing more of it counts
+	 */
+	virtual void OnTaken(EItem /*Item*/, std::uint64_t /*Bytes*/, bool /*bHeader*/, bool /*bDone*/) {}
 	/** This end dropped something; the other end has been told. */
 	virtual void OnDropped(const FLinkFault& Fault) = 0;
 };
@@ -31,8 +35,10 @@ public:
 	FSession(zmq::socket_t& InSocket, std::string InIdentity, IRecordFactory& Factory, EReceiver Receiver,
 		const FLimits& InLimits, ISessionEvents& InEvents);
 
-	/** The greeting is done; the other end's window is known. */
-	void Open(std::uint64_t PeerWindowBytes, std::uint32_t PeerMaxPieceBytes);
+	/** The greeting is done; the other end's window and the version of both are known. */
+	void Open(std::uint64_t PeerWindowBytes, std::uint32_t PeerMaxPieceBytes, std::uint16_t InVersion);
+
+	std::uint16_t ProtocolVersion() const { return Version; }
 
 	FOutbox& Outbox() { return Out; }
 
@@ -42,8 +48,11 @@ public:
 	 */
 	FLinkFault Receive(const FPrefix& Prefix, std::vector<zmq::message_t>& Parts, std::size_t FirstPart);
 
-	/** Tells the other end that a message was dropped before it could be understood. */
-	void ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber = 0);
+	/**
+	 * Tells the other end that a message was dropped before it could be understood.
+	 * @return as Receive: too many of them end the connection
+	 */
+	FLinkFault ReportFault(const FLinkFault& Fault, std::uint64_t ItemNumber = 0);
 
 	/** Sends what the window allows. False when the peer is gone. */
 	bool Pump();
@@ -58,7 +67,9 @@ public:
 	FClock::time_point StallDeadline(std::chrono::milliseconds StallTime) const;
 
 private:
-	void HandleResult(EDecode Result);
+	FLinkFault HandleResult(EDecode Result, const FPrefix& Prefix);
+	FLinkFault TakeCredit(std::uint64_t TotalBytes);
+	FLinkFault CountFault(FClock::time_point Now);
 
 	zmq::socket_t& Socket;
 	const std::string Identity;
@@ -66,8 +77,13 @@ private:
 	ISessionEvents& Events;
 	FItemDecoder Decoder;
 	FOutbox Out;
+	const bool bTakesRequests;
+	FRateLimit Requests;
+	FRateLimit Faults;
+	std::uint16_t Version = 0;
 	std::uint64_t Taken = 0;
 	std::uint64_t Credited = 0;
+	std::uint64_t LastCredit = 0; // that the other end gave
 	FClock::time_point ItemStart;
 	FClock::time_point SequenceStart;
 	FClock::time_point LastArrival;

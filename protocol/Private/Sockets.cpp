@@ -18,9 +18,8 @@ namespace
  */
 constexpr int WaitingParts = 64;
 
-/** A peer that is stopped or cut off is noticed by these; one whose process ends is noticed at once. */
-constexpr int HeartbeatMilliseconds = 5000;
-constexpr int HeartbeatTimeoutMilliseconds = 20000;
+/** So many heartbeats without an answer, and the peer is lost. One whose process ends is noticed at once. */
+constexpr int MissedHeartbeats = 4;
 
 /** How long the end of the endpoint waits for what was already handed to ZeroMQ. */
 constexpr int LingerMilliseconds = 250;
@@ -42,18 +41,19 @@ void ReleaseOwner(void* /*Data*/, void* Hint)
 }
 } // namespace
 
-void ConfigureSocket(zmq::socket_t& Socket, const FLimits& Limits)
+void ConfigureSocket(zmq::socket_t& Socket, const FLimits& Limits, std::chrono::milliseconds Heartbeat)
 {
+	const int Interval = static_cast<int>(Heartbeat.count());
 	// The window bounds what is under way; a high-water mark of ZeroMQ's would silently drop at the ROUTER.
 	Socket.set(zmq::sockopt::sndhwm, 0);
 	Socket.set(zmq::sockopt::rcvhwm, WaitingParts);
 	Socket.set(zmq::sockopt::linger, LingerMilliseconds);
 	Socket.set(zmq::sockopt::maxmsgsize,
 		static_cast<std::int64_t>(std::max<std::uint32_t>(Limits.MaxHeaderBytes, Limits.MaxPieceBytes)));
-	Socket.set(zmq::sockopt::heartbeat_ivl, HeartbeatMilliseconds);
-	Socket.set(zmq::sockopt::heartbeat_timeout, HeartbeatTimeoutMilliseconds);
-	Socket.set(zmq::sockopt::heartbeat_ttl, HeartbeatTimeoutMilliseconds);
-	Socket.set(zmq::sockopt::handshake_ivl, HeartbeatMilliseconds);
+	Socket.set(zmq::sockopt::heartbeat_ivl, Interval);
+	Socket.set(zmq::sockopt::heartbeat_timeout, Interval * MissedHeartbeats);
+	Socket.set(zmq::sockopt::heartbeat_ttl, Interval * MissedHeartbeats);
+	Socket.set(zmq::sockopt::handshake_ivl, Interval);
 }
 
 zmq::message_t MakePart(const FChunk& Chunk)
@@ -87,6 +87,32 @@ bool SendFrame(zmq::socket_t& Socket, const std::string& Identity, const FPrefix
 	catch (const zmq::error_t&)
 	{
 		// EHOSTUNREACH: the ROUTER knows no such peer any more.
+		return false;
+	}
+}
+
+bool SendParts(zmq::socket_t& Socket, const std::string& Identity, const std::vector<FChunk>& Parts)
+{
+	try
+	{
+		using zmq::send_flags;
+		if (!Identity.empty() && !Socket.send(zmq::buffer(Identity), send_flags::sndmore | send_flags::dontwait))
+		{
+			return false;
+		}
+		for (std::size_t Index = 0; Index < Parts.size(); ++Index)
+		{
+			zmq::message_t Part = MakePart(Parts[Index]);
+			const bool bMore = Index + 1 < Parts.size();
+			if (!Socket.send(Part, bMore ? send_flags::sndmore | send_flags::dontwait : send_flags::dontwait))
+			{
+				return false;
+			}
+		}
+		return true;
+	}
+	catch (const zmq::error_t&)
+	{
 		return false;
 	}
 }

@@ -19,8 +19,11 @@
 namespace Zef
 {
 
-/** Options that both ends set before they bind or connect: limits, heartbeats, no waiting. */
-void ConfigureSocket(zmq::socket_t& Socket, const FLimits& Limits);
+/**
+ * Options that both ends set before they bind or connect: limits, heartbeats, no waiting.
+ * @param Heartbeat  time between two; a peer that is silent for four times as long is lost
+ */
+void ConfigureSocket(zmq::socket_t& Socket, const FLimits& Limits, std::chrono::milliseconds Heartbeat);
 
 /** A message part over foreign memory, which its owner keeps alive until ZeroMQ has sent it. Short ones are copied. */
 zmq::message_t MakePart(const FChunk& Chunk);
@@ -30,6 +33,9 @@ zmq::message_t MakePart(const FChunk& Chunk);
  * @return false when the peer of that identity is gone
  */
 bool SendFrame(zmq::socket_t& Socket, const std::string& Identity, const FPrefix& Prefix, zmq::message_t* Body);
+
+/** Sends one message of these parts as they are, the identity in front when there is one. */
+bool SendParts(zmq::socket_t& Socket, const std::string& Identity, const std::vector<FChunk>& Parts);
 
 /** Takes one whole message without waiting; empty when there is none. Parts beyond the fourth are thrown away. */
 std::vector<zmq::message_t> ReceiveParts(zmq::socket_t& Socket, bool& bOutTooManyParts);

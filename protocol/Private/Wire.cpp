@@ -159,6 +159,12 @@ std::optional<FRefused> DecodeRefused(FByteView Bytes)
 		static_cast<EFault>(Table->code()), Text(Table->sentence()), Table->min_version(), Table->max_version()};
 }
 
+std::string ToString(const FVersionRange& Range)
+{
+	return Range.Min == Range.Max ? std::to_string(Range.Min)
+								  : std::to_string(Range.Min) + " to " + std::to_string(Range.Max);
+}
+
 std::uint16_t CommonVersion(std::uint16_t MinA, std::uint16_t MaxA, std::uint16_t MinB, std::uint16_t MaxB)
 {
 	const std::uint16_t Highest = std::min(MaxA, MaxB);

@@ -71,17 +71,25 @@ public:
 	{
 		++Counts.Updates;
 		Say("editor {} asks for an update ({})", Client, Describe(Options));
+		std::vector<FUpdateObject> Update;
 		for (const FProjectObject& Object : Objects.Project().Objects)
 		{
-			SendMesh(Client, Object.Type, Options);
+			Update.push_back({Object.Type, Objects.Mesh(Object.Type, Options)});
 		}
 		// An editor counts an update as done when it has seen these two.
 		for (const EObjectType Type : {EObjectType::Garment, EObjectType::Avatar})
 		{
 			if (!Objects.Project().Find(Type))
 			{
-				SendMesh(Client, Type, Options);
+				Update.push_back({Type, Objects.Mesh(Type, Options)});
 			}
+		}
+		std::vector<FLinkFault> Faults;
+		Endpoint->SendUpdate(Client, Update, &Faults);
+		for (std::size_t Index = 0; Index < Update.size(); ++Index)
+		{
+			Say("  {}: {}{}", ObjectTypeName(Update[Index].ObjectType), Describe(*Update[Index].Mesh),
+				Outcome(!Faults[Index], Faults[Index]));
 		}
 	}
 
@@ -151,14 +159,6 @@ public:
 		Say("{} editor {}: {}", bFromClient ? "fault told by" : "refused a message of", Client, ToString(Fault));
 	}
 
-	void SendMesh(FClientId Client, EObjectType Type, const FPackingOptions& Options)
-	{
-		const auto Mesh = Objects.Mesh(Type, Options);
-		FLinkFault Fault;
-		const bool bSent = Endpoint->SendSurfaceMesh(Client, Type, Mesh, &Fault);
-		Say("  {}: {}{}", ObjectTypeName(Type), Describe(*Mesh), Outcome(bSent, Fault));
-	}
-
 	static std::string Outcome(bool bSent, const FLinkFault& Fault)
 	{
 		if (bSent)
@@ -190,6 +190,7 @@ TResult<std::unique_ptr<FServer>> FServer::Open(FProject Project, FServerSetting
 {
 	FServerOptions Options;
 	Options.Program = ProgramName;
+	Options.KeyFile = Settings.KeyFile;
 	auto Endpoint = Settings.Endpoint.empty() ? FServerEndpoint::Open(Settings.Channel, Options)
 											  : FServerEndpoint::OpenEndpoint(Settings.Endpoint, Options);
 	if (!Endpoint)

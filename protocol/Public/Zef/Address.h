@@ -2,6 +2,7 @@
 /** From a channel name to the local endpoint that only the user may open. */
 #pragma once
 
+#include "Zef/LinkReason.h"
 #include "Zef/Result.h"
 
 #include <string>
@@ -23,6 +24,16 @@ struct FAddress
 	std::string SocketFile;
 	/** Folder of the file that this library makes and keeps closed to others; empty when it is not ours to make. */
 	std::string Folder;
+	/** On another machine, or open to others: not to be used without keys. */
+	bool bRemote = false;
+};
+
+/** Whether an address that is not local may be used. */
+enum class ERemote : std::uint8_t
+{
+	Refused,
+	/** Both ends have keys. */
+	WithKeys
 };
 
 /**
@@ -33,13 +44,28 @@ struct FAddress
  *
  * @return AddressRefused for an empty name, a path too long for a socket, and what AddressOfEndpoint refuses
  */
-TResult<FAddress> AddressOfChannel(const std::string& ChannelName);
+TResult<FAddress> AddressOfChannel(const std::string& ChannelName, ERemote Remote = ERemote::Refused);
 
 /**
- * Address of an endpoint: "ipc://PATH", "tcp://127.0.0.1:PORT", "tcp://[::1]:PORT" or "portfile:PATH".
- * @return AddressRefused for any other: a remote end would need keys, which this version does not read
+ * Address of an endpoint: "ipc://PATH", "tcp://127.0.0.1:PORT", "tcp://[::1]:PORT" or "portfile:PATH"; with keys also
+ * "tcp://HOST:PORT".
+ * @return AddressRefused for any other
  */
-TResult<FAddress> AddressOfEndpoint(const std::string& Endpoint);
+TResult<FAddress> AddressOfEndpoint(const std::string& Endpoint, ERemote Remote = ERemote::Refused);
+
+/** Folder of all channels' socket files: "$XDG_RUNTIME_DIR/zef-tandem", or "/tmp/zef-tandem-<user id>". */
+std::string LinkFolder();
+
+/** What $ZEF_TANDEM_ENDPOINT says; empty when it says nothing. */
+std::string EndpointOfEnvironment();
+
+/** Machine and port of a tcp endpoint; both empty for any other. */
+struct FHostAndPort
+{
+	std::string Host;
+	std::string Port;
+};
+FHostAndPort HostAndPortOf(const std::string& Endpoint);
 
 /**
  * Endpoint to connect to: the address's own, or what its port file says at the moment.
@@ -52,6 +78,13 @@ std::string ResolveEndpoint(const FAddress& Address);
  * @return code None when all is well
  */
 FLinkFault PrepareFolder(const FAddress& Address);
+
+/**
+ * Checks what an editor is about to connect to: the folder as CheckFolder does, and that the socket file belongs to
+ * this user. A file that does not exist passes.
+ * @return Well when it may be used; FolderUnsafe, SocketUnsafe or ForeignUser otherwise
+ */
+FLinkReason CheckBeforeConnecting(const FAddress& Address);
 
 /**
  * Checks that the folder is a real one, belongs to this user and is closed to everybody else. A folder that does not

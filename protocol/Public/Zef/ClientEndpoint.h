@@ -4,7 +4,9 @@
 
 #include "Zef/Address.h"
 #include "Zef/Fault.h"
+#include "Zef/Items.h"
 #include "Zef/Limits.h"
+#include "Zef/LinkWatch.h"
 #include "Zef/RecordSink.h"
 #include "Zef/Records.h"
 #include "Zef/Result.h"
@@ -36,9 +38,12 @@ public:
 	virtual void OnItem(FReceivedItem& Item) = 0;
 	virtual void OnAvailability(const FAvailability& Availability) = 0;
 
+	/** An update begins: what it will bring. Garment applications of protocol version 1 do not tell. */
+	virtual void OnUpdateAnnounced(const FUpdateAnnouncement&) {}
+
 	/**
-	 * The link came up, went down, or a request found nobody there. Reason is a sentence for a log; with true it is
-	 * what the garment application calls itself.
+	 * The link came up, went down, or a request found nobody there. Reason is the line of an FLinkReason for a log;
+	 * with true it is what the garment application calls itself.
 	 */
 	virtual void OnConnectionChanged(bool bConnected, const std::string& Reason) = 0;
 
@@ -58,6 +63,14 @@ struct FClientOptions
 	std::chrono::milliseconds RetryTime{100};
 	/** A connection that stops in the middle of an item for this long loses the item. */
 	std::chrono::milliseconds StallTime{10000};
+	/** Time between two heartbeats; a garment application that is silent for four times as long is lost. */
+	std::chrono::milliseconds Heartbeat{5000};
+	/** Versions of the protocol that are offered. */
+	FVersionRange Versions;
+	/** Keys of this end, for a tcp address; empty for what $ZEF_TANDEM_KEYS names. See Zef/Keys.h. */
+	std::string KeyFile;
+	/** When not empty: everything that the garment application sends is also written there, see Zef/Recording.h. */
+	std::string RecordFile;
 };
 
 /**
@@ -76,7 +89,8 @@ public:
 	/**
 	 * Starts looking for the channel's garment application; does not wait for it.
 	 * @param Factory  makes the records that arrive; shared with the reader thread
-	 * @return AddressRefused when the name gives no local address
+	 * @return AddressRefused when the name gives no address that may be used, KeysRefused for keys that may not be,
+	 * RecordingStopped when the recording cannot be begun
 	 */
 	static TResult<std::unique_ptr<FClientEndpoint>> Open(
 		const std::string& ChannelName, std::shared_ptr<IRecordFactory> Factory, const FClientOptions& Options = {});
@@ -93,6 +107,18 @@ public:
 
 	/** True between the two hellos and the loss of the link. */
 	bool IsConnected() const;
+
+	/** Where this endpoint looks, how it stands, and why there is no link when there is none. From any thread. */
+	FLinkStatus Status() const;
+
+	/** From any thread. */
+	FUpdateProgress Progress() const;
+
+	/**
+	 * Puts the recording in place; nothing is recorded afterwards. Otherwise the end of the endpoint does it.
+	 * @return RecordingStopped when it could not be written; code None also when there is no recording
+	 */
+	FLinkFault FinishRecording();
 
 	/**
 	 * Hands over what has arrived, in order; waits up to MaxWait for the first. Stops early after Stop.

@@ -43,6 +43,7 @@ struct FDecodedItem
 	FPackingOptions Options;					   // RequestUpdate, RequestAnimation
 	FObjectTypeInfo Info;						   // RequestAnimation, SendJointAnimation
 	FAvailability Availability;					   // Availability
+	FUpdateAnnouncement Announcement;			   // UpdateAnnouncement
 	FLinkFault Fault;							   // Fault
 	std::uint64_t FaultItem = 0;				   // Fault: number of the item that the other end refused
 	EObjectType ObjectType = EObjectType::Invalid; // SurfaceMesh, JointAnimation, SequenceBegin

@@ -54,6 +54,9 @@ FEncodedItem EncodeSequenceFrame(
 FEncodedItem EncodeSequenceEnd(std::uint32_t FrameCount);
 FEncodedItem EncodeAvailability(const FAvailability& Availability);
 
+/** Version 2 only. */
+FEncodedItem EncodeUpdateAnnouncement(const FUpdateAnnouncement& Announcement);
+
 /** @param ItemNumber  the refused item of the other end, 0 when the fault is not about one */
 FEncodedItem EncodeFault(const FLinkFault& Fault, std::uint64_t ItemNumber = 0);
 

@@ -36,12 +36,14 @@ enum class EFault : std::uint16_t
 	Stalled = 109,
 	HeaderTooLarge = 110,
 	WindowOverrun = 111,
+	RateExceeded = 112,
 
 	// Hello
 	VersionUnknown = 201,
 	NotGreeted = 202,
 	BadHello = 203,
 	TooManyClients = 204,
+	Closing = 205,
 
 	// Structure
 	BadTable = 301,
@@ -87,6 +89,10 @@ enum class EFault : std::uint16_t
 	PeerLost = 601,
 	AddressRefused = 602,
 	AddressTaken = 603,
+	KeysRefused = 604,
+	UserRefused = 605,
+	BadRecording = 606,
+	RecordingStopped = 607,
 
 	/** What a peer reports about itself: it could not do what was asked. */
 	PeerFailed = 701

@@ -29,6 +29,8 @@ enum class EItem : std::uint8_t
 	SequenceFrame = 19,
 	SequenceEnd = 20,
 	Availability = 21,
+	/** Version 2: what an update will bring. */
+	UpdateAnnouncement = 22,
 
 	Fault = 32,
 	None = 255
@@ -36,6 +38,24 @@ enum class EItem : std::uint8_t
 
 /** Name of an item as it stands in reports. */
 const char* ToString(EItem Item);
+
+/** One object of an update that is about to be sent. */
+struct FAnnouncedObject
+{
+	EObjectType ObjectType = EObjectType::Invalid;
+	/** Of its SurfaceMesh item, header and arrays. */
+	std::uint64_t Bytes = 0;
+
+	bool operator==(const FAnnouncedObject&) const = default;
+};
+
+/** What an update will bring, in the order in which it comes; each object type once. */
+struct FUpdateAnnouncement
+{
+	std::vector<FAnnouncedObject> Objects;
+
+	bool operator==(const FUpdateAnnouncement&) const = default;
+};
 
 /** Element counts of the arrays of one surface. */
 struct FSurfaceCounts

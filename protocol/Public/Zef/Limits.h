@@ -42,8 +42,14 @@ struct FLimits
 	std::uint32_t MaxFrames = 1u << 24;
 	/** Pixels along one side of a texture. */
 	std::uint32_t MaxTextureSide = 65536;
-	/** Connections that a garment application serves at once. */
+	/** Editors that a garment application serves at once. */
 	std::uint32_t MaxClients = 16;
+	/** Connections of a garment application that may stand at once, greeted or not; further ones are cut. */
+	std::uint32_t MaxConnections = 64;
+	/** Requests of one editor in a second, for long; four times as many may come at once. */
+	std::uint32_t MaxRequestsPerSecond = 1000;
+	/** Messages in a second that this end has to refuse, for long; four times as many may come at once. */
+	std::uint32_t MaxFaultsPerSecond = 64;
 };
 
 /** The editor counts the elements of an array in 32 signed bits. */
@@ -54,6 +60,16 @@ inline constexpr std::uint32_t DefaultPieceBytes = 1u << 20;
 
 /** Versions of the protocol that this library speaks. */
 inline constexpr std::uint16_t MinProtocolVersion = 1;
-inline constexpr std::uint16_t MaxProtocolVersion = 1;
+inline constexpr std::uint16_t MaxProtocolVersion = 2;
+
+/** The first version with UpdateAnnouncement, and with Refused that says why an application ends. */
+inline constexpr std::uint16_t AnnouncingVersion = 2;
+
+/** Versions that one end offers in the greeting. */
+struct FVersionRange
+{
+	std::uint16_t Min = MinProtocolVersion;
+	std::uint16_t Max = MaxProtocolVersion;
+};
 
 } // namespace Zef

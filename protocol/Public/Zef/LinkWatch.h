@@ -2,6 +2,8 @@
 /** How the links of this process stand, for status lines, and a call when one of them has something to tell. */
 #pragma once
 
+#include "Zef/LinkReason.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -19,6 +21,18 @@ enum class ELinkState : std::uint8_t
 	Refused // the garment application turned this editor away; attempts go on slowly
 };
 
+/** How far the update that was announced last has come; all zero while none was. */
+struct FUpdateProgress
+{
+	std::uint64_t AnnouncedBytes = 0;
+	/** Those of objects that were refused count as received. */
+	std::uint64_t ReceivedBytes = 0;
+	std::uint32_t AnnouncedObjects = 0;
+	std::uint32_t ReceivedObjects = 0;
+
+	bool IsUnderWay() const { return ReceivedObjects < AnnouncedObjects; }
+};
+
 /** One open end of the link of this process. */
 struct FLinkStatus
 {
@@ -26,8 +40,13 @@ struct FLinkStatus
 	/** ZeroMQ endpoint, or the path of the port file that names it. */
 	std::string Address;
 	ELinkState State = ELinkState::Searching;
-	/** Up: what the garment application calls itself. Absent and Refused: why, as a sentence. */
+	/** Up: what the garment application calls itself. Absent and Refused: why and what to do, as one line. */
 	std::string Detail;
+	/** Why there is no link; Well when there is one, or nothing is known yet. */
+	FLinkReason Reason;
+	/** Version of the protocol that both speak; 0 without a link. */
+	std::uint16_t Version = 0;
+	FUpdateProgress Progress;
 };
 
 /** The client endpoints of this process that are open, in the order of opening. Callable from any thread. */

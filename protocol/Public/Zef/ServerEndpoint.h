@@ -5,6 +5,7 @@
 #include "Zef/Address.h"
 #include "Zef/Fault.h"
 #include "Zef/Limits.h"
+#include "Zef/Recording.h"
 #include "Zef/Records.h"
 #include "Zef/Result.h"
 
@@ -13,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Zef
 {
@@ -35,7 +37,8 @@ public:
 	/** Message 0: the user switched the link on or off. */
 	virtual void OnEnable(FClientId, bool /*bEnabled*/) {}
 
-	/** Message 1: answer with one SendSurfaceMesh for each object type, garment and avatar among them. */
+	/** Message 1: answer with SendUpdate, or one SendSurfaceMesh for each object type, garment and avatar among them.
+	 */
 	virtual void OnUpdateRequested(FClientId Client, const FPackingOptions& Options) = 0;
 
 	/**
@@ -68,6 +71,21 @@ struct FServerOptions
 	std::uint32_t PieceBytes = DefaultPieceBytes;
 	/** A connection that stops in the middle of an item for this long loses the item. */
 	std::chrono::milliseconds StallTime{10000};
+	/** Time between two heartbeats; an editor that is silent for four times as long is gone. */
+	std::chrono::milliseconds Heartbeat{5000};
+	/** A connection that has not said Hello after this long is cut. */
+	std::chrono::milliseconds GreetingTime{5000};
+	/** Versions of the protocol that are spoken. */
+	FVersionRange Versions;
+	/** Keys of this end, for a tcp address; empty for what $ZEF_TANDEM_KEYS names. See Zef/Keys.h. */
+	std::string KeyFile;
+};
+
+/** One object of an update. */
+struct FUpdateObject
+{
+	EObjectType ObjectType = EObjectType::Invalid;
+	std::shared_ptr<const FSurfaceMesh> Mesh;
 };
 
 /**
@@ -90,12 +108,16 @@ class FServerEndpoint
 public:
 	/**
 	 * Binds the channel's address. A socket file that a dead application left is replaced; AddressTaken when another
-	 * one serves the channel, AddressRefused when the folder is not safe or the address is not local.
+	 * one serves the channel, AddressRefused when the folder is not safe or the address may not be used,
+	 * KeysRefused for keys that may not be.
 	 */
 	static TResult<std::unique_ptr<FServerEndpoint>> Open(
 		const std::string& ChannelName, const FServerOptions& Options = {});
 
-	// The same for an endpoint in ZeroMQ's notation; "ipc://*" and "tcp://127.0.0.1:*" choose a free one.
+	/**
+	 * The same for an endpoint in ZeroMQ's notation; "ipc://*" chooses a free name in the folder of the channels, and
+	 * "tcp://127.0.0.1:*" a free port. A remote one (every other tcp) needs keys.
+	 */
 	static TResult<std::unique_ptr<FServerEndpoint>> OpenEndpoint(
 		const std::string& Endpoint, const FServerOptions& Options = {});
 
@@ -117,6 +139,14 @@ public:
 	/** Makes a waiting Poll return; from any thread, also from a signal's own thread. */
 	void Wake();
 
+	/**
+	 * Sends all objects of an update, and tells an editor of protocol version 2 in front of them what will come. An
+	 * object that breaks the protocol's rules is left out.
+	 * @param OutFaults  [Objects.size()], in their order; code None for what is sent
+	 * @return false when one was left out, or the client is gone
+	 */
+	bool SendUpdate(
+		FClientId Client, const std::vector<FUpdateObject>& Objects, std::vector<FLinkFault>* OutFaults = nullptr);
 	bool SendSurfaceMesh(FClientId Client, EObjectType ObjectType, std::shared_ptr<const FSurfaceMesh> Mesh,
 		FLinkFault* OutFault = nullptr);
 	bool SendJointAnimation(FClientId Client, EObjectType ObjectType, std::shared_ptr<const FJointAnimation> Animation,
@@ -124,6 +154,10 @@ public:
 	bool SendMeshSequence(FClientId Client, EObjectType ObjectType, std::shared_ptr<const FSurfaceMesh> Mesh,
 		FFrameSource Frames, FLinkFault* OutFault = nullptr);
 	bool SendAvailability(FClientId Client, const FAvailability& Availability);
+
+	/** Sends what was recorded, message by message as it came; the window is kept. */
+	bool SendRecorded(
+		FClientId Client, const std::vector<FRecordedMessage>& Messages, std::shared_ptr<const void> Owner);
 
 	/** Tells the editor's user why a request cannot be served; PeerFailed is the code for that. */
 	bool SendFault(FClientId Client, const FLinkFault& Fault);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Zef/Fault.h"
+#include "Zef/Limits.h"
 
 #include <array>
 #include <cstddef>
@@ -85,6 +86,9 @@ FBytes EncodeRefused(const FRefused& Refused);
 std::optional<FHello> DecodeHello(FByteView Bytes);
 std::optional<FWelcome> DecodeWelcome(FByteView Bytes);
 std::optional<FRefused> DecodeRefused(FByteView Bytes);
+
+/** "2", or "1 to 2". */
+std::string ToString(const FVersionRange& Range);
 
 /** The highest version that both ranges hold, or 0. */
 std::uint16_t CommonVersion(std::uint16_t MinA, std::uint16_t MaxA, std::uint16_t MinB, std::uint16_t MaxB);

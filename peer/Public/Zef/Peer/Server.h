@@ -24,6 +24,8 @@ struct FServerSettings
 	std::string Channel = "Tandem";
 	/** When not empty: bound in place of the channel's address, in ZeroMQ's notation. */
 	std::string Endpoint;
+	/** Keys of this end, for a tcp address; empty for what $ZEF_TANDEM_KEYS names. */
+	std::string KeyFile;
 	/** Takes what editors send; null: what is sent is counted, told and let go. */
 	std::unique_ptr<IJointAnimationStore> Store;
 	/** Null: silence. */
