@@ -133,7 +133,7 @@ void FClientEndpoint::FImpl::OpenSocket()
 {
 	if (const FLinkReason Reason = CheckBeforeConnecting(Address))
 	{
-		TurnedAway(Reason, MakeFault(EFault::AddressRefused, "", Reason.What));
+		TurnedAway(Reason, FaultOf(Reason));
 		return;
 	}
 	const std::string Endpoint = ResolveEndpoint(Address);
@@ -175,7 +175,6 @@ void FClientEndpoint::FImpl::CloseSocket()
 {
 	bDisconnected = false;
 	Descriptor = -1;
-	ClosingReason = {};
 	Monitor.reset();
 	Dealer.reset();
 }
@@ -212,7 +211,11 @@ void FClientEndpoint::FImpl::WatchConnection()
 		{
 			// ZeroMQ hands over a connection's last messages between telling of its end and whatever it tells next.
 			ReceiveAll();
-			OnTransportDown(LossReason());
+			// They may have ended it already.
+			if (bDisconnected)
+			{
+				OnTransportDown(LossReason());
+			}
 			return;
 		}
 		OnTransportEvent(Event);
@@ -278,7 +281,8 @@ void FClientEndpoint::FImpl::OnNoHandshake()
 
 void FClientEndpoint::FImpl::OnKeysRejected(const std::string& What)
 {
-	TurnedAway({ELinkReason::KeysRejected, What}, MakeFault(EFault::KeysRefused, "", What));
+	const FLinkReason Reason{ELinkReason::KeysRejected, What};
+	TurnedAway(Reason, FaultOf(Reason));
 }
 
 void FClientEndpoint::FImpl::OnTransportUp()
@@ -289,7 +293,7 @@ void FClientEndpoint::FImpl::OnTransportUp()
 	}
 	if (const FLinkReason Reason = CheckBeforeConnecting(Address))
 	{
-		TurnedAway(Reason, MakeFault(EFault::AddressRefused, "", Reason.What));
+		TurnedAway(Reason, FaultOf(Reason));
 		return;
 	}
 	// With keys the other end has shown who it is.
@@ -310,10 +314,6 @@ void FClientEndpoint::FImpl::OnTransportUp()
 
 FLinkReason FClientEndpoint::FImpl::LossReason() const
 {
-	if (ClosingReason)
-	{
-		return ClosingReason;
-	}
 	const bool bTellsItsEnd = Session && Session->ProtocolVersion() >= AnnouncingVersion;
 	return {ELinkReason::PeerLost, bTellsItsEnd
 									   ? "The garment application ended without a word, or has stopped answering."
@@ -401,10 +401,10 @@ void FClientEndpoint::FImpl::ReceiveAnswer(
 		const FLinkReason Reason{
 			Fault.Code == EFault::VersionUnknown ? ELinkReason::VersionUnknown : ELinkReason::TurnedAway,
 			Fault.Message};
-		if (Fault.Code == EFault::Closing && Phase == EPhase::Up)
+		if (Fault.Code == EFault::Closing)
 		{
-			// What it still sends is taken; the end of the connection follows.
-			ClosingReason = ReasonOf(Fault);
+			// Everything that it sent before has come before.
+			OnTransportDown(ReasonOf(Fault));
 			return;
 		}
 		TurnedAway(Reason, Fault);

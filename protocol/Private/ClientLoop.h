@@ -138,8 +138,7 @@ private:
 	FClock::time_point PhaseDeadline = FClock::time_point::max();
 	bool bDisconnected = false; // the transport is gone; what it still delivered is taken first
 	FClock::time_point NextProbe{};
-	int Descriptor = -1;	   // of the connection
-	FLinkReason ClosingReason; // the application has said that it ends
+	int Descriptor = -1; // of the connection
 	std::string LastRefusal;
 	FProgressMeter Meter;
 	std::unique_ptr<FRecorder> Recorder;

@@ -99,6 +99,32 @@ FLinkReason ReasonOf(const FLinkFault& Fault)
 	return {Kind, Fault.Message.empty() ? FaultInfo(Fault.Code).Text : Fault.Message};
 }
 
+FLinkFault FaultOf(const FLinkReason& Reason)
+{
+	EFault Code = EFault::PeerLost;
+	switch (Reason.Kind)
+	{
+		case ELinkReason::Well:
+			return {};
+		case ELinkReason::AddressRefused:
+		case ELinkReason::FolderUnsafe:
+		case ELinkReason::SocketUnsafe:
+			Code = EFault::AddressRefused;
+			break;
+		case ELinkReason::ForeignUser:
+			Code = EFault::UserRefused;
+			break;
+		case ELinkReason::KeysNeeded:
+		case ELinkReason::KeysUnusable:
+		case ELinkReason::KeysRejected:
+			Code = EFault::KeysRefused;
+			break;
+		default:
+			break;
+	}
+	return MakeFault(Code, "", Reason.What);
+}
+
 std::string ToString(const FLinkReason& Reason)
 {
 	const std::string Advice = Reason.Advice();

@@ -45,8 +45,8 @@ FLinkFault FSession::TakeCredit(std::uint64_t TotalBytes)
 {
 	if (!Out.Credit(TotalBytes))
 	{
-		return ReportFault(
-			MakeFault(EFault::BadPrefix, "", "A credit of " + std::to_string(TotalBytes) + " bytes was never sent."));
+		return ReportFault(MakeFault(EFault::BadPrefix, "",
+			"A credit for what was sent was expected; one of " + std::to_string(TotalBytes) + " bytes came."));
 	}
 	// One that says what was known is harmless, many are a flood.
 	const bool bNew = TotalBytes != LastCredit;
@@ -66,16 +66,7 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 	}
 	if (Prefix.Frame == EFrame::Credit)
 	{
-<<<<<<< HEAD
-		if (!Out.Credit(Prefix.Offset))
-		{
-			ReportFault(MakeFault(EFault::BadPrefix, "",
-				"A credit for what was sent was expected; one of " + std::to_string(Prefix.Offset) + " bytes came."));
-		}
-		return {};
-=======
 		return TakeCredit(Prefix.Offset);
->>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
 	}
 	const FByteView Body = ViewOf(Parts[FirstPart]);
 	const std::uint64_t UnderWay = Taken - Credited;
@@ -116,16 +107,8 @@ FLinkFault FSession::Receive(const FPrefix& Prefix, std::vector<zmq::message_t>&
 		}
 		return HandleResult(Result, Prefix);
 	}
-<<<<<<< HEAD
-	else
-	{
-		ReportFault(
-			MakeFault(EFault::UnknownFrame, "", "An item, a piece or credit was expected; a greeting came again."));
-	}
-	return {};
-=======
-	return ReportFault(MakeFault(EFault::UnknownFrame, "", "A greeting came on a connection that was greeted."));
->>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
+	return ReportFault(
+		MakeFault(EFault::UnknownFrame, "", "An item, a piece or credit was expected; a greeting came again."));
 }
 
 FLinkFault FSession::HandleResult(EDecode Result, const FPrefix& Prefix)
@@ -195,15 +178,10 @@ void FSession::DropStalled(FClock::time_point Now, std::chrono::milliseconds Sta
 	{
 		return;
 	}
-<<<<<<< HEAD
 	const FLinkFault Fault = Decoder.Abandon(
 		EFault::Stalled, "A piece was expected; none came for " + std::to_string(StallTime.count()) + " milliseconds.");
-=======
-	const FLinkFault Fault =
-		Decoder.Abandon(EFault::Stalled, "No piece came for " + std::to_string(StallTime.count()) + " milliseconds.");
 	Events.OnTaken(Decoder.CurrentItem(), 0, false, true);
 	// Stalls are too slow for a flood.
->>>>>>> e4fc13d (link: Negotiate versions, check users and keys, name the reasons, record)
 	ReportFault(Fault, Decoder.FaultItem());
 }
 

@@ -34,5 +34,7 @@ std::vector<FFaultCase> StructureFaultCases();
 std::vector<FFaultCase> MeaningFaultCases();
 /** Faults that only two connected ends can have. */
 std::vector<FFaultCase> EndpointFaultCases();
+/** Faults of addresses, keys, limits and recordings. */
+std::vector<FFaultCase> AccessFaultCases();
 
 } // namespace LinkTest

@@ -13,7 +13,7 @@ using namespace LinkTest;
 std::vector<FFaultCase> AllCases()
 {
 	std::vector<FFaultCase> Cases = StructureFaultCases();
-	for (std::vector<FFaultCase> More : {MeaningFaultCases(), EndpointFaultCases()})
+	for (std::vector<FFaultCase> More : {MeaningFaultCases(), EndpointFaultCases(), AccessFaultCases()})
 	{
 		Cases.insert(Cases.end(), More.begin(), More.end());
 	}

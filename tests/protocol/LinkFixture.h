@@ -147,6 +147,10 @@ public:
 		Frames.push_back(std::move(InFrames));
 	}
 	void OnAvailability(const Zef::FAvailability& Availability) override { Availabilities.push_back(Availability); }
+	void OnUpdateAnnounced(const Zef::FUpdateAnnouncement& Announcement) override
+	{
+		Announcements.push_back(Announcement);
+	}
 	void OnConnectionChanged(bool bConnected, const std::string& Reason) override
 	{
 		Connections.push_back(bConnected);
@@ -165,6 +169,7 @@ public:
 	std::vector<Zef::FSurfaceMesh> SequenceMeshes;
 	std::vector<std::vector<Zef::FMeshSequenceFrame>> Frames;
 	std::vector<Zef::FAvailability> Availabilities;
+	std::vector<Zef::FUpdateAnnouncement> Announcements;
 	std::vector<bool> Connections;
 	std::vector<std::string> Reasons;
 	std::vector<Zef::FLinkFault> Faults;

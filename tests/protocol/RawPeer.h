@@ -30,6 +30,12 @@ public:
 			static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(Patience).count()));
 	}
 
+	/** How long Receive waits. */
+	void SetPatience(std::chrono::milliseconds Time)
+	{
+		Socket.set(zmq::sockopt::rcvtimeo, static_cast<int>(Time.count()));
+	}
+
 	/** One message of these parts. */
 	void Send(std::initializer_list<Zef::FBytes> Parts)
 	{
@@ -41,6 +47,15 @@ public:
 		for (const Zef::FBytes& Part : Parts)
 		{
 			Socket.send(zmq::buffer(Part), --Left > 0 ? zmq::send_flags::sndmore : zmq::send_flags::none);
+		}
+	}
+
+	/** Messages of two parts each, prefix and body, one after the other. */
+	void SendAll(const std::vector<Zef::FBytes>& Parts)
+	{
+		for (std::size_t Index = 0; Index + 1 < Parts.size(); Index += 2)
+		{
+			Send({Parts[Index], Parts[Index + 1]});
 		}
 	}
 

@@ -77,6 +77,9 @@ struct FLinkReason
 /** The reason behind a fault that ended a connection, or kept one from being made. */
 FLinkReason ReasonOf(const FLinkFault& Fault);
 
+/** The fault that tells of a reason for which an address or connection is not used. */
+FLinkFault FaultOf(const FLinkReason& Reason);
+
 /** One line for a log: what is the case, then what to do. */
 std::string ToString(const FLinkReason& Reason);
 

@@ -114,10 +114,8 @@ public:
 	static TResult<std::unique_ptr<FServerEndpoint>> Open(
 		const std::string& ChannelName, const FServerOptions& Options = {});
 
-	/**
-	 * The same for an endpoint in ZeroMQ's notation; "ipc://*" chooses a free name in the folder of the channels, and
-	 * "tcp://127.0.0.1:*" a free port. A remote one (every other tcp) needs keys.
-	 */
+	// The same for an endpoint in ZeroMQ's notation; "ipc://*" chooses a free name in the folder of the channels, and
+	// "tcp://127.0.0.1:*" a free port. A remote one (every other tcp) needs keys.
 	static TResult<std::unique_ptr<FServerEndpoint>> OpenEndpoint(
 		const std::string& Endpoint, const FServerOptions& Options = {});
 

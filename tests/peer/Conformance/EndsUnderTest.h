@@ -36,6 +36,7 @@ inline Zef::FLimits LimitsFor(const Zef::Peer::FConformanceCase& Case)
 		Limits.MaxItemBytes = Name == "MaxItemBytes" ? Value : Limits.MaxItemBytes;
 		Limits.WindowBytes = Name == "WindowBytes" ? Value : Limits.WindowBytes;
 		Limits.MaxClients = Name == "MaxClients" ? Bytes : Limits.MaxClients;
+		Limits.MaxRequestsPerSecond = Name == "MaxRequestsPerSecond" ? Bytes : Limits.MaxRequestsPerSecond;
 	}
 	return Limits;
 }

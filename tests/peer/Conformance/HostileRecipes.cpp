@@ -381,6 +381,13 @@ std::vector<FRecipe> AnimationRecipes()
 std::vector<FRecipe> EndpointRecipes()
 {
 	const auto Opening = [](EFault Code) { return "expect opening " + Number(Code); };
+	const auto ByTheProgram = [](EFault Code, const char* About, const char* Test)
+	{
+		return FCaseText(About, "editor")
+			.Line(std::string("provoked by ") + Test)
+			.Line("expect program " + Number(Code))
+			.As(std::string("hostile/") + Zef::FaultInfo(Code).Name);
+	};
 	return {
 		FCaseText("An editor that asks for everything and is gone when it comes.", "application")
 			.Line("expect told " + Number(EFault::PeerLost))
@@ -401,6 +408,22 @@ std::vector<FRecipe> EndpointRecipes()
 			.Item(Zef::EncodeFault(
 				Zef::MakeFault(EFault::PeerFailed, "/Project", "A project was expected to be open; there is none.")))
 			.As("hostile/PeerFailed"),
+		FCaseText("Five thousand requests at once for an end that takes ten in a second.", "application")
+			.Line("needs MaxRequestsPerSecond=10")
+			.Line("repeat 5000")
+			.Line("expect refused " + Number(EFault::RateExceeded))
+			.Item(Zef::EncodeEnable(true))
+			.As("hostile/RateExceeded"),
+		FCaseText("A garment application that its user closes.", "editor")
+			.Line("version 2")
+			.Line("expect refused " + Number(EFault::Closing))
+			.Message({FCaseText::Prefix(Zef::EFrame::Refused),
+				Zef::EncodeRefused({EFault::Closing, "The garment application was closed.", 1, 2})})
+			.As("hostile/Closing"),
+		ByTheProgram(EFault::KeysRefused, "Keys that are missing, unsafe or not admitted.", "Keys"),
+		ByTheProgram(EFault::UserRefused, "The other end belongs to another user.", "Access"),
+		ByTheProgram(EFault::BadRecording, "A file that is no recording.", "Recording"),
+		ByTheProgram(EFault::RecordingStopped, "A disk that is full.", "Recording"),
 	};
 }
 } // namespace

@@ -35,19 +35,25 @@ FRecipe Object(const char* Name, const char* About, EObjectType ObjectType, std:
 }
 
 /** The kept bytes of a version, one case for each file. */
-std::vector<FRecipe> GoldenRecipes()
+std::vector<FRecipe> GoldenRecipes(int Version)
 {
-	const auto Golden = [](const char* Name, const char* To, const std::string& Expect, const char* Greeting = nullptr)
+	const auto Golden = [Version](
+							const char* Name, const char* To, const std::string& Expect, const char* Greeting = nullptr)
 	{
+		const std::string Folder = "v" + std::to_string(Version);
 		FCaseText Case((std::string("The kept bytes of ") + Name + ".").c_str(), To);
+		if (Version > 1)
+		{
+			Case.Line("version " + std::to_string(Version));
+		}
 		if (Greeting != nullptr)
 		{
 			Case.Line(Greeting);
 		}
-		return Case.Line("expect " + Expect).Line(std::string("golden v1/") + Name).As(std::string("valid/v1-") + Name);
+		return Case.Line("expect " + Expect).Line("golden " + Folder + "/" + Name).As("valid/" + Folder + "-" + Name);
 	};
 	const char* const Raw = "greeting raw";
-	return {
+	std::vector<FRecipe> Recipes{
 		Golden("Hello", "application", "taken", Raw),
 		Golden("Welcome", "editor", "taken", Raw),
 		Golden("Refused", "editor", "refused 201"),
@@ -56,7 +62,9 @@ std::vector<FRecipe> GoldenRecipes()
 		Golden("RequestUpdate", "application", "taken"),
 		Golden("RequestAnimation", "application", "taken"),
 		Golden("RequestAvailability", "application", "taken"),
-		Golden("SendJointAnimation", "application", "fault 405 item 1 at /Mesh/Surfaces/1/Sections/0/Indices/0"),
+		// The kept bytes of version 1 count indices in the surface, as a reply does.
+		Golden("SendJointAnimation", "application",
+			Version == 1 ? "fault 405 item 1 at /Mesh/Surfaces/1/Sections/0/Indices/0" : "taken"),
 		Golden("SurfaceMesh", "editor", "taken"),
 		Golden("JointAnimation", "editor", "taken"),
 		Golden("SequenceBegin", "editor", "taken"),
@@ -65,6 +73,12 @@ std::vector<FRecipe> GoldenRecipes()
 		Golden("Availability", "editor", "taken"),
 		Golden("Fault", "editor", "taken"),
 	};
+	if (Version > 1)
+	{
+		Recipes.push_back(Golden("UpdateAnnouncement", "editor", "taken"));
+		Recipes.push_back(Golden("Closing", "editor", "refused 205"));
+	}
+	return Recipes;
 }
 
 std::vector<FRecipe> ObjectRecipes()
@@ -157,7 +171,7 @@ std::vector<FRecipe> AnimationRecipes()
 std::vector<FRecipe> ValidRecipes()
 {
 	std::vector<FRecipe> Recipes;
-	for (std::vector<FRecipe> More : {GoldenRecipes(), ObjectRecipes(), AnimationRecipes()})
+	for (std::vector<FRecipe> More : {GoldenRecipes(1), GoldenRecipes(2), ObjectRecipes(), AnimationRecipes()})
 	{
 		Recipes.insert(Recipes.end(), std::make_move_iterator(More.begin()), std::make_move_iterator(More.end()));
 	}
