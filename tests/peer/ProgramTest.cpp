@@ -43,9 +43,10 @@ TEST(PeerProgram, TellsAllItsCommandsAndOptions)
 	const FOutcome Help = RunPeer("--help-all");
 
 	EXPECT_EQ(Help.Status, 0);
-	for (const char* Name : {"serve", "check", "info", "--garment", "--avatar", "--outfit", "--prop", "--sample",
-			 "--channel", "--endpoint", "--save-dir", "--ready-file", "--exit-after", "--once", "--quiet", "--as", "conformance", "--set", "--only", "--with", "--patience",
-			 "--exact-words", "--list", "faults", "--markdown"})
+	for (const char* Name :
+		{"serve", "check", "info", "--garment", "--avatar", "--outfit", "--prop", "--sample", "--channel", "--endpoint",
+			"--save-dir", "--ready-file", "--exit-after", "--once", "--quiet", "--as", "conformance", "--set", "--only",
+			"--with", "--patience", "--exact-words", "--list", "faults", "--markdown"})
 	{
 		EXPECT_THAT(Help.Output, HasSubstr(Name));
 	}
