@@ -2,9 +2,7 @@
 
 #include "Framework/Commands/Commands.h"
 
-#include "Framework/Commands/GenericCommands.h"
 #include "Internationalization/Internationalization.h"
-#include "Styling/AppStyle.h"
 
 namespace
 {
@@ -28,27 +26,15 @@ void FUICommandInfo::MakeCommandInfo(const TSharedRef<FBindingContext>& InContex
 	Command->Description = InCommandDesc;
 	Command->Icon = InIcon;
 	Command->UserInterfaceType = InUserInterfaceType;
-	Command->DefaultChords[static_cast<int>(EMultipleKeyBindingIndex::Primary)] = InDefaultChord;
-	Command->DefaultChords[static_cast<int>(EMultipleKeyBindingIndex::Secondary)] = InAlternateDefaultChord;
+	Command->DefaultChords[static_cast<int32>(EMultipleKeyBindingIndex::Primary)] = InDefaultChord;
+	Command->DefaultChords[static_cast<int32>(EMultipleKeyBindingIndex::Secondary)] = InAlternateDefaultChord;
 	FInputBindingManager::Get().CreateInputCommand(InContext, Command);
 	OutCommand = Command;
 }
 
 const FInputChord& FUICommandInfo::GetDefaultChord(const EMultipleKeyBindingIndex InChordIndex) const
 {
-	return DefaultChords[static_cast<int>(InChordIndex)];
-}
-
-FText FUICommandInfo::GetInputText() const
-{
-	for (const FInputChord& Chord : DefaultChords)
-	{
-		if (Chord.IsValidChord())
-		{
-			return Chord.GetInputText(false);
-		}
-	}
-	return FText::GetEmpty();
+	return DefaultChords[static_cast<int32>(InChordIndex)];
 }
 
 bool FUICommandInfo::HasDefaultChord(const FInputChord& InChord) const
@@ -61,6 +47,60 @@ bool FUICommandInfo::HasDefaultChord(const FInputChord& InChord) const
 		}
 	}
 	return false;
+}
+
+const TSharedRef<const FInputChord> FUICommandInfo::GetActiveChord(const EMultipleKeyBindingIndex InChordIndex) const
+{
+	return MakeShared<const FInputChord>(ActiveChords[static_cast<int32>(InChordIndex)]);
+}
+
+const TSharedRef<const FInputChord> FUICommandInfo::GetFirstValidChord() const
+{
+	for (const FInputChord& Chord : ActiveChords)
+	{
+		if (Chord.IsValidChord())
+		{
+			return MakeShared<const FInputChord>(Chord);
+		}
+	}
+	return MakeShared<const FInputChord>();
+}
+
+bool FUICommandInfo::HasActiveChord(const FInputChord& InChord) const
+{
+	for (const FInputChord& Chord : ActiveChords)
+	{
+		if (Chord.IsValidChord() && Chord == InChord)
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+void FUICommandInfo::SetActiveChord(const FInputChord NewChord, const EMultipleKeyBindingIndex InChordIndex)
+{
+	while (const TSharedPtr<FUICommandInfo> Former = FInputBindingManager::Get().FindConflict(*this, NewChord))
+	{
+		for (FInputChord& Chord : Former->ActiveChords)
+		{
+			if (Chord == NewChord)
+			{
+				Chord = FInputChord();
+			}
+		}
+	}
+	ActiveChords[static_cast<int32>(InChordIndex)] = NewChord;
+}
+
+void FUICommandInfo::RemoveActiveChord(const EMultipleKeyBindingIndex InChordIndex)
+{
+	ActiveChords[static_cast<int32>(InChordIndex)] = FInputChord();
+}
+
+FText FUICommandInfo::GetInputText() const
+{
+	return GetFirstValidChord()->GetInputText(false);
 }
 
 void MakeUICommand_InternalUseOnly(FBindingContext* This, TSharedPtr<FUICommandInfo>& OutCommand,
@@ -77,110 +117,3 @@ void MakeUICommand_InternalUseOnly(FBindingContext* This, TSharedPtr<FUICommandI
 		MakeText(InDescription, *Namespace, InCommandNameUnderscoreTooltip),
 		FSlateIcon(This->GetStyleSetName(), IconKey), CommandType, InDefaultChord, InAlternateDefaultChord);
 }
-
-FInputBindingManager& FInputBindingManager::Get()
-{
-	static FInputBindingManager Instance;
-	return Instance;
-}
-
-TSharedPtr<FBindingContext> FInputBindingManager::GetContextByName(const FName& InContextName)
-{
-	const FContextEntry* Found = Contexts.Find(InContextName);
-	return Found ? Found->Context : nullptr;
-}
-
-TSharedPtr<FUICommandInfo> FInputBindingManager::FindCommandInContext(
-	const FName InBindingContext, const FName CommandName) const
-{
-	if (const FContextEntry* Found = Contexts.Find(InBindingContext))
-	{
-		for (const TSharedPtr<FUICommandInfo>& Command : Found->Commands)
-		{
-			if (Command->GetCommandName() == CommandName)
-			{
-				return Command;
-			}
-		}
-	}
-	return nullptr;
-}
-
-TSharedPtr<FUICommandInfo> FInputBindingManager::FindCommandInContext(
-	const FName InBindingContext, const FInputChord& InChord, bool bCheckParents) const
-{
-	const FContextEntry* Found = Contexts.Find(InBindingContext);
-	while (Found)
-	{
-		for (const TSharedPtr<FUICommandInfo>& Command : Found->Commands)
-		{
-			if (Command->HasDefaultChord(InChord))
-			{
-				return Command;
-			}
-		}
-		const FName Parent = Found->Context->GetContextParent();
-		Found = bCheckParents && !Parent.IsNone() ? Contexts.Find(Parent) : nullptr;
-	}
-	return nullptr;
-}
-
-void FInputBindingManager::GetCommandInfosFromContext(
-	const FName InBindingContext, TArray<TSharedPtr<FUICommandInfo>>& OutCommandInfos) const
-{
-	const FContextEntry* Found = Contexts.Find(InBindingContext);
-	OutCommandInfos = Found ? Found->Commands : TArray<TSharedPtr<FUICommandInfo>>();
-}
-
-void FInputBindingManager::AddContext(const TSharedRef<FBindingContext>& InContext)
-{
-	Contexts.FindOrAdd(InContext->GetContextName()).Context = InContext;
-}
-
-void FInputBindingManager::CreateInputCommand(
-	const TSharedRef<FBindingContext>& InBindingContext, TSharedRef<FUICommandInfo> InCommandInfo)
-{
-	FContextEntry& Entry = Contexts.FindOrAdd(InBindingContext->GetContextName());
-	Entry.Context = InBindingContext;
-	checkf(!FindCommandInContext(InBindingContext->GetContextName(), InCommandInfo->GetCommandName()).IsValid(),
-		TEXT("The context '%s' has a command '%s' already"), *InBindingContext->GetContextName().ToString(),
-		*InCommandInfo->GetCommandName().ToString());
-	Entry.Commands.Add(InCommandInfo);
-}
-
-void FInputBindingManager::RemoveContextByName(const FName& InContextName)
-{
-	Contexts.Remove(InContextName);
-}
-
-#define LOCTEXT_NAMESPACE "GenericCommands"
-
-FGenericCommands::FGenericCommands()
-	: TCommands<FGenericCommands>(TEXT("GenericCommands"),
-		  NSLOCTEXT("GenericCommands", "Generic Commands", "Common Commands"), NAME_None,
-		  FAppStyle::GetAppStyleSetName())
-{
-}
-
-void FGenericCommands::RegisterCommands()
-{
-	UI_COMMAND(
-		Cut, "Cut", "Cut selection", EUserInterfaceActionType::Button, FInputChord(EModifierKey::Control, EKeys::X));
-	UI_COMMAND(
-		Copy, "Copy", "Copy selection", EUserInterfaceActionType::Button, FInputChord(EModifierKey::Control, EKeys::C));
-	UI_COMMAND(Paste, "Paste", "Paste clipboard contents", EUserInterfaceActionType::Button,
-		FInputChord(EModifierKey::Control, EKeys::V));
-	UI_COMMAND(Duplicate, "Duplicate", "Duplicate selection", EUserInterfaceActionType::Button,
-		FInputChord(EModifierKey::Control, EKeys::D));
-	UI_COMMAND(Undo, "Undo", "Undo the last action", EUserInterfaceActionType::Button,
-		FInputChord(EModifierKey::Control, EKeys::Z));
-	UI_COMMAND(Redo, "Redo", "Redo the last undone action", EUserInterfaceActionType::Button,
-		FInputChord(EModifierKey::Control, EKeys::Y));
-	UI_COMMAND(Delete, "Delete", "Delete current selection", EUserInterfaceActionType::Button,
-		FInputChord(EKeys::Platform_Delete));
-	UI_COMMAND(Rename, "Rename", "Rename current selection", EUserInterfaceActionType::Button, FInputChord(EKeys::F2));
-	UI_COMMAND(SelectAll, "Select All", "Select everything", EUserInterfaceActionType::Button,
-		FInputChord(EModifierKey::Control, EKeys::A));
-}
-
-#undef LOCTEXT_NAMESPACE

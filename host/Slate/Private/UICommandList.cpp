@@ -28,6 +28,15 @@ void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUIComman
 	MapAction(InUICommandInfo, FUIAction(ExecuteAction, CanExecuteAction, GetActionCheckState, RepeatMode));
 }
 
+void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
+	FCanExecuteAction CanExecuteAction, FIsActionChecked IsCheckedDelegate, FIsActionButtonVisible IsVisibleDelegate,
+	EUIActionRepeatMode RepeatMode)
+{
+	FUIAction Action(ExecuteAction, CanExecuteAction, IsCheckedDelegate, RepeatMode);
+	Action.IsActionVisibleDelegate = IsVisibleDelegate;
+	MapAction(InUICommandInfo, Action);
+}
+
 void FUICommandList::MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction)
 {
 	checkf(InUICommandInfo.IsValid(), TEXT("A command is mapped before its table is registered"));
@@ -41,8 +50,25 @@ void FUICommandList::UnmapAction(const TSharedPtr<const FUICommandInfo> InUIComm
 
 void FUICommandList::Append(const TSharedRef<FUICommandList>& InCommandsToAppend)
 {
-	check(&InCommandsToAppend.Get() != this);
-	ParentUICommandLists.Add(InCommandsToAppend);
+	checkf(!InCommandsToAppend->Contains(*this), TEXT("A command list is appended to one that it contains"));
+	ParentUICommandLists.AddUnique(InCommandsToAppend);
+}
+
+bool FUICommandList::Contains(const FUICommandList& Other) const
+{
+	if (this == &Other)
+	{
+		return true;
+	}
+	for (const TWeakPtr<FUICommandList>& Weak : ParentUICommandLists)
+	{
+		const TSharedPtr<FUICommandList> List = Weak.Pin();
+		if (List.IsValid() && List->Contains(Other))
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 bool FUICommandList::IsActionMapped(const TSharedPtr<const FUICommandInfo> InUICommandInfo) const
@@ -121,7 +147,7 @@ bool FUICommandList::ProcessCommandBindings(
 	for (const auto& Entry : UICommandBindingMap)
 	{
 		const TSharedPtr<const FUICommandInfo> Command = Entry.Key;
-		if (!Command->HasDefaultChord(Chord) ||
+		if (!Command->HasActiveChord(Chord) ||
 			(bRepeat && Entry.Value.RepeatMode != EUIActionRepeatMode::RepeatEnabled))
 		{
 			continue;

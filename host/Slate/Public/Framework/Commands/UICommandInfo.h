@@ -59,19 +59,36 @@ public:
 	EUserInterfaceActionType GetUserInterfaceType() const { return UserInterfaceType; }
 	FName GetBindingContext() const { return BindingContext; }
 	const FInputChord& GetDefaultChord(const EMultipleKeyBindingIndex InChordIndex) const;
-	/** The keys of the command as a menu writes them; empty when it has none. */
-	FText GetInputText() const;
 	/** True when one of the two default chords is that one. */
 	bool HasDefaultChord(const FInputChord& InChord) const;
 
+	/**
+	 * The keys that run the command now: the default ones until others are set, and none where another command of the
+	 * same keys was there first.
+	 */
+	const TSharedRef<const FInputChord> GetActiveChord(const EMultipleKeyBindingIndex InChordIndex) const;
+	/** The first active chord with a key; one without a key when there is none. */
+	const TSharedRef<const FInputChord> GetFirstValidChord() const;
+	bool HasActiveChord(const FInputChord& InChord) const;
+	/** Takes the keys away from whatever command of the context, its parents and children they ran before. */
+	void SetActiveChord(const FInputChord NewChord, const EMultipleKeyBindingIndex InChordIndex);
+	void RemoveActiveChord(const EMultipleKeyBindingIndex InChordIndex);
+	/** The active keys as a menu writes them; empty when there are none. */
+	FText GetInputText() const;
+
 private:
+	friend class FInputBindingManager;
+
+	static constexpr int32 NumChords = static_cast<int32>(EMultipleKeyBindingIndex::NumChords);
+
 	FName BindingContext;
 	FName CommandName;
 	FText Label;
 	FText Description;
 	FSlateIcon Icon;
 	EUserInterfaceActionType UserInterfaceType = EUserInterfaceActionType::Button;
-	FInputChord DefaultChords[static_cast<int>(EMultipleKeyBindingIndex::NumChords)];
+	FInputChord DefaultChords[NumChords];
+	FInputChord ActiveChords[NumChords];
 };
 
 /** What UI_COMMAND expands to; not called by hand. */

@@ -29,6 +29,9 @@ public:
 	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
 		FCanExecuteAction CanExecuteAction, FGetActionCheckState GetActionCheckState,
 		EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
+	void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, FExecuteAction ExecuteAction,
+		FCanExecuteAction CanExecuteAction, FIsActionChecked IsCheckedDelegate,
+		FIsActionButtonVisible IsVisibleDelegate, EUIActionRepeatMode RepeatMode = EUIActionRepeatMode::RepeatDisabled);
 	virtual void MapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo, const FUIAction& InUIAction);
 	void UnmapAction(const TSharedPtr<const FUICommandInfo> InUICommandInfo);
 
@@ -48,11 +51,17 @@ public:
 	ECheckBoxState GetCheckState(const TSharedRef<const FUICommandInfo> InUICommandInfo) const;
 	EVisibility GetVisibility(const TSharedRef<const FUICommandInfo> InUICommandInfo) const;
 
-	/** Runs the mapped command that the pressed chord means; true when one ran. A held key needs a repeating action. */
+	/**
+	 * Runs the mapped command whose active keys were pressed, here or else in an appended list; true when one ran. A
+	 * command that may not run leaves the keys to the next one. A held key needs a repeating action.
+	 */
 	bool ProcessCommandBindings(const FKeyEvent& InKeyEvent) const;
 	bool ProcessCommandBindings(const FKey Key, const FModifierKeysState& ModifierKeysState, const bool bRepeat) const;
 
 private:
+	/** Whether the other list is this one or one that is asked for it. */
+	bool Contains(const FUICommandList& Other) const;
+
 	TMap<TSharedPtr<const FUICommandInfo>, FUIAction> UICommandBindingMap;
 	TArray<TWeakPtr<FUICommandList>> ParentUICommandLists;
 };
