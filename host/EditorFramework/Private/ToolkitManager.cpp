@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Toolkits/ToolkitManager.h"
 
+#include "Host/Toolkits.h"
 #include "Toolkits/IToolkitHost.h"
 
 FToolkitManager& FToolkitManager::Get()
@@ -11,14 +12,18 @@ FToolkitManager& FToolkitManager::Get()
 
 void FToolkitManager::RegisterNewToolkit(const TSharedRef<IToolkit> NewToolkit)
 {
-	check(!Toolkits.Contains(NewToolkit));
-	Toolkits.Add(NewToolkit);
-	NewToolkit->GetToolkitHost()->OnToolkitHostingStarted(NewToolkit);
+	check(!Toolkits.ContainsByPredicate(
+		[&NewToolkit](const FHostedToolkit& Entry) { return Entry.Toolkit == NewToolkit; }));
+	const TSharedRef<IToolkitHost> Host = NewToolkit->GetToolkitHost();
+	Toolkits.Add({NewToolkit, &Host.Get()});
+	Host->OnToolkitHostingStarted(NewToolkit);
 }
 
 void FToolkitManager::CloseToolkit(const TSharedRef<IToolkit> ClosingToolkit)
 {
-	if (Toolkits.Remove(ClosingToolkit) > 0 && ClosingToolkit->IsHosted())
+	const int32 NumRemoved =
+		Toolkits.RemoveAll([&ClosingToolkit](const FHostedToolkit& Entry) { return Entry.Toolkit == ClosingToolkit; });
+	if (NumRemoved > 0 && ClosingToolkit->IsHosted())
 	{
 		ClosingToolkit->GetToolkitHost()->OnToolkitHostingFinished(ClosingToolkit);
 	}
@@ -26,25 +31,56 @@ void FToolkitManager::CloseToolkit(const TSharedRef<IToolkit> ClosingToolkit)
 
 void FToolkitManager::OnToolkitHostDestroyed(IToolkitHost* HostBeingDestroyed)
 {
-	const TArray<TSharedPtr<IToolkit>> Open = Toolkits;
-	for (const TSharedPtr<IToolkit>& Toolkit : Open)
+	const TArray<FHostedToolkit> Open = Toolkits;
+	for (const FHostedToolkit& Entry : Open)
 	{
-		if (Toolkit->IsHosted() && &Toolkit->GetToolkitHost().Get() == HostBeingDestroyed)
+		if (Entry.Host == HostBeingDestroyed)
 		{
-			CloseToolkit(Toolkit.ToSharedRef());
+			CloseToolkit(Entry.Toolkit.ToSharedRef());
 		}
 	}
 }
 
 TSharedPtr<IToolkit> FToolkitManager::FindEditorForAsset(const UObject* Asset)
 {
-	for (const TSharedPtr<IToolkit>& Toolkit : Toolkits)
+	for (const FHostedToolkit& Entry : Toolkits)
 	{
-		const TArray<UObject*>* const Edited = Toolkit->GetObjectsCurrentlyBeingEdited();
+		const TArray<UObject*>* const Edited = Entry.Toolkit->GetObjectsCurrentlyBeingEdited();
 		if (Edited && Edited->Contains(const_cast<UObject*>(Asset)))
 		{
-			return Toolkit;
+			return Entry.Toolkit;
 		}
 	}
 	return nullptr;
 }
+
+namespace Host
+{
+/** Lets the functions of the host look into the manager without its header saying more than the engine's does. */
+struct FToolkitManagerAccess
+{
+	static TArray<TSharedPtr<IToolkit>> Open()
+	{
+		TArray<TSharedPtr<IToolkit>> Result;
+		for (const FToolkitManager::FHostedToolkit& Entry : FToolkitManager::Get().Toolkits)
+		{
+			Result.Add(Entry.Toolkit);
+		}
+		return Result;
+	}
+};
+
+TArray<TSharedPtr<IToolkit>> OpenToolkits()
+{
+	return FToolkitManagerAccess::Open();
+}
+
+void CloseAllToolkits()
+{
+	// Closing one may close others or open one more.
+	for (TArray<TSharedPtr<IToolkit>> Open = OpenToolkits(); !Open.IsEmpty(); Open = OpenToolkits())
+	{
+		FToolkitManager::Get().CloseToolkit(Open[0].ToSharedRef());
+	}
+}
+} // namespace Host

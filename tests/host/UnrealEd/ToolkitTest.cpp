@@ -3,11 +3,16 @@
 #include "EditorModeManager.h"
 #include "EngineFixture.h"
 #include "Framework/Commands/UICommandList.h"
+#include "Framework/Docking/TabManager.h"
 #include "Framework/Docking/WorkspaceItem.h"
+#include "Host/Docking.h"
+#include "Host/Toolkits.h"
 #include "Toolkits/BaseToolkit.h"
+#include "Toolkits/GlobalEditorCommonCommands.h"
 #include "Toolkits/IToolkitHost.h"
 #include "Toolkits/ToolkitManager.h"
 #include "UObject/Package.h"
+#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SNullWidget.h"
 
 namespace
@@ -23,9 +28,11 @@ public:
 	UWorld* GetWorld() const override { return nullptr; }
 	FEditorModeTools& GetEditorModeManager() const override { return Modes; }
 	FName GetStatusBarName() const override { return NAME_None; }
+	FOnActiveViewportChanged& OnActiveViewportChanged() override { return ActiveViewportChanged; }
 
 	std::string Calls;
 	mutable FEditorModeTools Modes;
+	FOnActiveViewportChanged ActiveViewportChanged;
 };
 
 class FTestToolkit : public FBaseToolkit
@@ -94,6 +101,63 @@ TEST_F(Toolkits, GoWithTheirHost)
 	EXPECT_EQ(Host->Calls, "started finished ");
 	EXPECT_EQ(OtherHost->Calls, "started ");
 	Manager.CloseToolkit(Elsewhere);
+}
+
+TEST_F(Toolkits, GoWithAHostThatIsInItsDestructor)
+{
+	TSharedPtr<FTestHost> Dying = MakeShared<FTestHost>();
+	const TSharedRef<FTestToolkit> Toolkit = MakeShared<FTestToolkit>();
+	Toolkit->SetHost(Dying);
+	FToolkitManager::Get().RegisterNewToolkit(Toolkit);
+	FTestHost* const Address = Dying.Get();
+	Dying.Reset();
+	FToolkitManager::Get().OnToolkitHostDestroyed(Address);
+	EXPECT_EQ(Host::OpenToolkits().Num(), 0);
+}
+
+TEST_F(Toolkits, AreClosedAllAtOnceAtTheEndOfTheProgram)
+{
+	for (int Index = 0; Index < 3; ++Index)
+	{
+		const TSharedRef<FTestToolkit> Toolkit = MakeShared<FTestToolkit>();
+		Toolkit->SetHost(Host);
+		FToolkitManager::Get().RegisterNewToolkit(Toolkit);
+	}
+	EXPECT_EQ(Host::OpenToolkits().Num(), 3);
+	Host::CloseAllToolkits();
+	EXPECT_EQ(Host::OpenToolkits().Num(), 0);
+	EXPECT_EQ(Host->Calls, "started started started finished finished finished ");
+}
+
+TEST_F(Toolkits, TakeCtrlTabAndLeaveTheDocumentationToTheirOwners)
+{
+	TSharedRef<FUICommandList> Commands = MakeShared<FUICommandList>();
+	FGlobalEditorCommonCommands::MapActions(Commands);
+	const FGlobalEditorCommonCommands& Known = FGlobalEditorCommonCommands::Get();
+	EXPECT_TRUE(Commands->IsActionMapped(Known.SummonControlTabNavigation));
+	EXPECT_FALSE(Commands->IsActionMapped(Known.OpenDocumentation));
+	EXPECT_TRUE(Known.OpenDocumentation->HasDefaultChord(FInputChord(EKeys::F1)));
+}
+
+TEST_F(Toolkits, GoToTheNextMajorTabWithCtrlTab)
+{
+	for (int Index = 0; Index < 3; ++Index)
+	{
+		FGlobalTabmanager::Get()->InsertNewDocumentTab(
+			"Test", FTabManager::FLiveTabSearch(), SNew(SDockTab).TabRole(ETabRole::MajorTab));
+		Tick(0.1);
+	}
+	const TArray<TSharedRef<SDockTab>> Tabs = Host::OpenTabs(*FGlobalTabmanager::Get());
+	ASSERT_EQ(Tabs.Num(), 3);
+	TSharedRef<FUICommandList> Commands = MakeShared<FUICommandList>();
+	FGlobalEditorCommonCommands::MapActions(Commands);
+	FGlobalTabmanager::Get()->DrawAttention(Tabs[1]);
+	for (const int Expected : {2, 0, 1})
+	{
+		Tick(0.1);
+		Commands->ExecuteAction(FGlobalEditorCommonCommands::Get().SummonControlTabNavigation.ToSharedRef());
+		EXPECT_EQ(FGlobalTabmanager::Get()->GetActiveTab(), Tabs[Expected]);
+	}
 }
 
 TEST_F(Toolkits, AreFoundByWhatTheyEdit)
