@@ -30,7 +30,8 @@ target_link_options(zef_flags INTERFACE -Wl,--no-as-needed)
 set(zef_api_modules
 	Core CoreUObject Projects InputCore RHI RenderCore SlateCore Slate ToolMenus GeometryCore AssetRegistry Analytics
 	AnalyticsET Engine
-	GeometryFramework EditorFramework UnrealEd PropertyEditor AdvancedPreviewScene MaterialEditor
+	GeometryFramework EditorFramework UnrealEd MainFrame EditorStyle Documentation StatusBar PropertyEditor
+	AdvancedPreviewScene MaterialEditor
 	EditorScriptingUtilities Launch ZEFTandemRuntime ZEFTandemMisc ZEFTandemEditor)
 foreach(module IN LISTS zef_api_modules)
 	string(TOUPPER "${module}" upper)

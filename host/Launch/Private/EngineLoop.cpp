@@ -9,16 +9,22 @@
 #include "Host/Clock.h"
 #include "Host/ConfigDirs.h"
 #include "Host/Docking.h"
+#include "Host/DocumentationPages.h"
+#include "Host/EditorStyle.h"
+#include "Host/MainFrame.h"
 #include "Host/Modules.h"
 #include "Host/Notifications.h"
 #include "Host/PackageStore.h"
 #include "Host/Plugins.h"
 #include "Host/ToolMenusRuntime.h"
+#include "Host/Toolkits.h"
 #include "Host/Windows.h"
 #include "Interfaces/IPluginManager.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Modules/ModuleManager.h"
+#include "Toolkits/AssetEditorCommonCommands.h"
+#include "Toolkits/GlobalEditorCommonCommands.h"
 #include "UObject/GarbageCollection.h"
 #include "UObject/Package.h"
 
@@ -50,6 +56,10 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
 	}
 	FSlateApplication::Create();
 	FGenericCommands::Register();
+	FGlobalEditorCommonCommands::Register();
+	FAssetEditorCommonCommands::Register();
+	LoadEditorStyleSettings();
+	SetDocumentationFolder(Options.PluginDir);
 
 	UEditorEngine* const Editor = NewObject<UEditorEngine>(GetTransientPackage(), NAME_None, RF_Transient);
 	Editor->AddToRoot();
@@ -66,6 +76,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError)
 			return false;
 		}
 	}
+	RegisterMainFrameMenu();
 	StartToolMenus();
 	UE_LOG(LogInit, Log, TEXT("The engine is up"));
 	return true;
@@ -117,6 +128,7 @@ void FEngineLoop::Exit()
 	}
 	bRunning = false;
 	FGlobalTabmanager::Get()->SaveAllVisualState();
+	CloseAllToolkits();
 	ShutdownModules();
 	if (GEditor)
 	{
@@ -137,6 +149,7 @@ void FEngineLoop::Exit()
 	}
 	MountedRoots.Empty();
 	ForgetPlugins();
+	SetDocumentationFolder(FString());
 	if (GConfig)
 	{
 		GConfig->Flush(false);

@@ -49,8 +49,8 @@ public:
 	void Tick(double DeltaSeconds);
 
 	/**
-	 * Shuts the modules down, ends the editor and the mounts and collects everything. Open editors of the plug-in must
-	 * be closed before. Nothing happens when no engine runs.
+	 * Closes open editors without asking, shuts the modules down, ends the editor and the mounts and collects
+	 * everything. Nobody may hold an editor instance any more. Nothing happens when no engine runs.
 	 */
 	void Exit();
 

@@ -126,7 +126,7 @@ TSharedPtr<SDockTab> FDockAccess::Spawn(FTabManager& Manager, const FTabId& Id, 
 	{
 		Tab->TabLabel = Entry->GetDisplayName();
 	}
-	if (!Tab->TabIcon.IsSet() && Entry->GetIcon().IsSet())
+	if (!Tab->GetTabIcon() && Entry->GetIcon().IsSet())
 	{
 		Tab->TabIcon = Entry->GetIcon().GetIcon();
 	}

@@ -9,6 +9,7 @@
 #include "Types/SlateEnums.h"
 
 class FLayoutText;
+class FMenuBuilder;
 class FMultiBox;
 class FTabManager;
 class SDockTab;
@@ -370,6 +371,8 @@ public:
 	TSharedRef<FWorkspaceItem> GetLocalWorkspaceMenuRoot() const { return LocalWorkspaceMenuRoot; }
 	TSharedRef<FWorkspaceItem> AddLocalWorkspaceMenuCategory(const FText& CategoryTitle);
 	void ClearLocalWorkspaceMenuCategories();
+	/** Adds an entry with a check mark for each kind of tab, under the headings of the categories. */
+	void PopulateLocalTabSpawnerMenu(FMenuBuilder& PopulateMe);
 
 	/**
 	 * Brings a live tab to the front, or opens it at its place, or in a window of its own when it has none.
