@@ -37,6 +37,10 @@ protected:
 	void Close()
 	{
 		Client = nullptr;
+		if (Editor.IsValid())
+		{
+			Editor->CloseWindow();
+		}
 		Editor.Reset();
 	}
 

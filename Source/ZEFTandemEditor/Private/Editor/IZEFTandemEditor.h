@@ -30,7 +30,7 @@ public:
 	/** Builds the mesh and puts it into the preview; null, with nothing built, while there is no viewport. */
 	virtual UPrimitiveComponent* AddObject(int32 ObjectType, const FZEFSurfaceMesh& Mesh) = 0;
 
-	/** Takes an object out of the preview; does nothing while there is no viewport. */
+	/** Takes an object out of the preview; does nothing for null or while there is no viewport. */
 	virtual void RemoveObject(int32 ObjectType, UPrimitiveComponent* Component) = 0;
 
 	/** Frames the objects selected in the tree in every viewport. */
@@ -40,7 +40,8 @@ public:
 
 	virtual TArray<UPrimitiveComponent*> GetSelectedObjects() const = 0;
 
-	/** Replaces the selection; with `bUpdateViewport` the viewport is redrawn and the tree's rows follow. */
+	/** Replaces the selection, null entries are passed over; with `bUpdateViewport` the viewport is redrawn and the
+	 * tree's rows follow. */
 	virtual void SetSelectedObjects(const TArray<UPrimitiveComponent*>& Objects, bool bUpdateViewport) = 0;
 
 	virtual FOnSelectedObjectsChanged& OnSelectedObjectsChanged() { return SelectedObjectsChangedEvent; }

@@ -3,31 +3,85 @@
 
 #include "DetailsViewArgs.h"
 #include "Editor.h"
-#include "Editor/Widgets/TandemTree/SZEFTandemTree.h"
-#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
+#include "Editor/Widgets/TandemTree/IZEFTandemTree.h"
 #include "Editor/ZEFPreviewScene.h"
 #include "Editor/ZEFTandemEditorCommands.h"
 #include "Editor/ZEFTandemEditorModule.h"
 #include "Editor/ZEFTandemProgress.h"
 #include "EditorReimportHandler.h"
 #include "EditorViewportTabContent.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Framework/Commands/GenericCommands.h"
 #include "Framework/Commands/UICommandList.h"
+#include "Framework/Docking/TabManager.h"
+#include "Framework/MultiBox/MultiBoxExtender.h"
 #include "IDetailsView.h"
 #include "Internationalization/Internationalization.h"
 #include "Modules/ModuleManager.h"
 #include "PropertyEditorModule.h"
 #include "Stats/Stats.h"
+#include "Styling/AppStyle.h"
 #include "Subsystems/ImportSubsystem.h"
+#include "Toolkits/IToolkitHost.h"
 #include "UObject/Package.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Layout/SBorder.h"
+#include "Widgets/SWindow.h"
 #include "ZEFTandemClientComponent.h"
 
 #define LOCTEXT_NAMESPACE "ZEFTandemEditor"
+
+const FName FZEFTandemEditor::ViewportTabId(TEXT("ZEFTandemEditor_Viewport"));
+const FName FZEFTandemEditor::PropertiesTabId(TEXT("ZEFTandemEditor_Properties"));
+const FName FZEFTandemEditor::PreviewSceneSettingsTabId(TEXT("ZEFTandemEditor_PreviewScene"));
+const FName FZEFTandemEditor::TandemTreeTabId(TEXT("ZEFTandemEditor_TandemTree"));
+const FName FZEFTandemEditor::SecondaryToolbarTabId(TEXT("ZEFTandemEditor_SecondaryToolbar"));
 
 namespace
 {
 
 const FString ChannelName(TEXT("Tandem"));
+const FName ZEFTandemEditorAppIdentifier(TEXT("ZEFTandemEditorApp"));
+
+TSharedRef<FTabManager::FLayout> MakeDefaultLayout()
+{
+	// clang-format off
+	return FTabManager::NewLayout("Standalone_ZEFTandemEditor_Layout_v0.1")
+		->AddArea
+		(
+			FTabManager::NewPrimaryArea()->SetOrientation(Orient_Vertical)
+			->Split
+			(
+				FTabManager::NewStack()->SetSizeCoefficient(0.1f)->SetHideTabWell(true)
+				->AddTab(FZEFTandemEditor::SecondaryToolbarTabId, ETabState::ClosedTab)
+			)
+			->Split
+			(
+				FTabManager::NewSplitter()->SetSizeCoefficient(0.9f)->SetOrientation(Orient_Horizontal)
+				->Split
+				(
+					FTabManager::NewStack()->SetSizeCoefficient(0.2f)->SetHideTabWell(true)
+					->AddTab(FZEFTandemEditor::TandemTreeTabId, ETabState::OpenedTab)
+				)
+				->Split
+				(
+					FTabManager::NewStack()->SetSizeCoefficient(0.6f)->SetHideTabWell(true)
+					->AddTab(FZEFTandemEditor::ViewportTabId, ETabState::OpenedTab)
+				)
+				->Split
+				(
+					FTabManager::NewSplitter()->SetSizeCoefficient(0.2f)->SetOrientation(Orient_Vertical)
+					->Split
+					(
+						FTabManager::NewStack()->SetSizeCoefficient(0.7f)
+						->AddTab(FZEFTandemEditor::PreviewSceneSettingsTabId, ETabState::OpenedTab)
+						->AddTab(FZEFTandemEditor::PropertiesTabId, ETabState::OpenedTab)
+					)
+				)
+			)
+		);
+	// clang-format on
+}
 
 FDetailsViewArgs MakeDetailsViewArgs(FNotifyHook* NotifyHook)
 {
@@ -56,15 +110,20 @@ FZEFTandemEditor::FZEFTandemEditor()
 	Availability = ZefTandemCore::TandemAvailability();
 }
 
-void FZEFTandemEditor::Initialize(const TSharedPtr<IToolkitHost>& /*InitToolkitHost*/)
+void FZEFTandemEditor::Initialize(const TSharedPtr<IToolkitHost>& InitToolkitHost)
 {
 	GEditor->RegisterForUndo(this);
 	BindCommands();
+	// Carries the icon alone; it is never opened.
+	const TSharedRef<SDockTab> IconTab = SNew(SDockTab).Icon(FAppStyle::GetBrush("LevelEditor.Tabs.Viewports"));
 	FPropertyEditorModule& PropertyEditor =
 		FModuleManager::LoadModuleChecked<FPropertyEditorModule>(TEXT("PropertyEditor"));
 	DetailsView = PropertyEditor.CreateDetailView(MakeDetailsViewArgs(this));
-	TandemTree = SNew(SZEFTandemTree, SharedThis(static_cast<IZEFTandemEditor*>(this)));
-	CreateViewportTabContent();
+
+	InitAssetEditor(InitToolkitHost, ZEFTandemEditorAppIdentifier, MakeDefaultLayout(), true, true, true, false);
+	ExtendToolbar();
+	RegenerateMenusAndToolbars();
+	GenerateSecondaryToolbar();
 
 	FZEFTandemEditorModule& Module = FModuleManager::GetModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
 	Module.GetOnEditorCreated().Broadcast(SharedThis(static_cast<IZEFTandemEditor*>(this)));
@@ -72,7 +131,7 @@ void FZEFTandemEditor::Initialize(const TSharedPtr<IToolkitHost>& /*InitToolkitH
 
 FZEFTandemEditor::~FZEFTandemEditor()
 {
-	GetZEFTandemParentFrame().Reset();
+	ParentFrame.Reset();
 	SetSelectedObjects(TArray<UPrimitiveComponent*>(), false);
 	ObjectComponents.Empty();
 	PreviewScene->RemoveComponent(Client);
@@ -105,18 +164,20 @@ void FZEFTandemEditor::BindCommands()
 		FExecuteAction::CreateSP(this, &FZEFTandemEditor::ToggleUnifiedMaterial), FCanExecuteAction(),
 		FIsActionChecked::CreateSP(this, &FZEFTandemEditor::IsUnifiedMaterial));
 	ToolkitCommands->MapAction(Commands.Update, FExecuteAction::CreateSP(this, &FZEFTandemEditor::RequestUpdate));
+	ToolkitCommands->MapAction(Commands.SaveAsStaticMesh, FExecuteAction(),
+		FCanExecuteAction::CreateSP(this, &FZEFTandemEditor::CanSaveAsStaticMesh));
+	ToolkitCommands->MapAction(Commands.SaveAsSkeletalMesh, FExecuteAction(),
+		FCanExecuteAction::CreateSP(this, &FZEFTandemEditor::CanSaveAsSkeletalMesh));
+	ToolkitCommands->MapAction(Commands.SaveAsGeometryCache, FExecuteAction(),
+		FCanExecuteAction::CreateSP(this, &FZEFTandemEditor::CanSaveAsGeometryCache));
+	ToolkitCommands->MapAction(Commands.SaveAsAnimSequence, FExecuteAction(),
+		FCanExecuteAction::CreateSP(this, &FZEFTandemEditor::CanSaveAsAnimSequence));
 }
 
-void FZEFTandemEditor::CreateViewportTabContent()
+void FZEFTandemEditor::PostInitAssetEditor()
 {
-	ViewportTabContent = MakeShared<FEditorViewportTabContent>();
-	const TSharedPtr<IZEFTandemEditor> Self = SharedThis(static_cast<IZEFTandemEditor*>(this));
-	const TSharedPtr<FZEFPreviewScene> Scene = PreviewScene;
-	const TWeakPtr<IZEFTandemEditor> WeakSelf = Self;
-	const AssetEditorViewportFactoryFunction MakeViewport =
-		[Scene, WeakSelf](const FAssetEditorViewportConstructionArgs&) -> TSharedRef<SAssetEditorViewport>
-	{ return SNew(SZEFTandemEditorViewport, Scene, WeakSelf.Pin()); };
-	ViewportTabContent->Initialize(MakeViewport, nullptr, TEXT("ZEFTandemEditorViewport"));
+	ParentFrame = FSlateApplication::Get().FindWidgetWindow(GetToolkitHost()->GetParentWidget());
+	GetZEFTandemParentFrame() = ParentFrame;
 }
 
 FName FZEFTandemEditor::GetEditorName() const

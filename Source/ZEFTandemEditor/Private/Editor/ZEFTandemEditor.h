@@ -2,6 +2,7 @@
 /** The one editor instance: owns the link client, the preview scene and what the preview holds. */
 #pragma once
 
+#include "AssetEditorViewportLayout.h"
 #include "CoreMinimal.h"
 #include "Editor/IZEFTandemEditor.h"
 #include "EditorUndoClient.h"
@@ -11,11 +12,17 @@
 #include "ZEFTandemRecords.h"
 
 class FEditorViewportTabContent;
+class FExtender;
+class FSpawnTabArgs;
+class FToolBarBuilder;
 class FZEFPreviewScene;
 class IDetailsView;
 class IToolkitHost;
 class IZEFTandemTree;
+class SBorder;
+class SDockTab;
 class SWidget;
+class SWindow;
 class UZEFTandemClientComponent;
 
 class FZEFTandemEditor : public IZEFTandemEditor,
@@ -40,7 +47,11 @@ public:
 	virtual TArray<UPrimitiveComponent*> GetSelectedObjects() const override { return SelectedObjects; }
 	virtual void SetSelectedObjects(const TArray<UPrimitiveComponent*>& Objects, bool bUpdateViewport) override;
 
-	// Toolkit identity
+	// FZEFEditorToolkit
+	virtual void RegisterTabSpawners(const TSharedRef<FTabManager>& InTabManager) override;
+	virtual void UnregisterTabSpawners(const TSharedRef<FTabManager>& InTabManager) override;
+	/** Notes the window that the editor stands in. */
+	virtual void PostInitAssetEditor() override;
 	virtual FName GetEditorName() const override;
 	virtual FName GetToolkitFName() const override;
 	virtual FText GetBaseToolkitName() const override;
@@ -58,6 +69,7 @@ public:
 	virtual void Tick(float DeltaTime) override;
 	virtual TStatId GetStatId() const override;
 
+	virtual void ReservedEditorSlot() {}
 	virtual void RegisterOnPostUndo(const FSimpleDelegate& Delegate);
 	virtual void UnregisterOnPostUndo(const FSimpleDelegate& Delegate);
 
@@ -79,6 +91,12 @@ public:
 	/** Asks for the availability flags when exactly one row is selected; called while the Save menu is built. */
 	void RequestAvailability();
 
+	static const FName ViewportTabId;
+	static const FName PropertiesTabId;
+	static const FName PreviewSceneSettingsTabId;
+	static const FName TandemTreeTabId;
+	static const FName SecondaryToolbarTabId;
+
 	TSharedPtr<FZEFPreviewScene> GetPreviewScene() const { return PreviewScene; }
 	TSharedPtr<IZEFTandemTree> GetTandemTree() const { return TandemTree; }
 	UZEFTandemClientComponent* GetClient() const { return Client; }
@@ -92,7 +110,20 @@ private:
 	};
 
 	void BindCommands();
-	void CreateViewportTabContent();
+	void ExtendToolbar();
+	void FillToolbar(FToolBarBuilder& ToolBar);
+	TSharedRef<SWidget> MakeUpdateOptionsMenu();
+	TSharedRef<SWidget> MakeSaveMenu();
+	/** Fills the secondary tool bar from its extenders; into its tab when that is open. */
+	void GenerateSecondaryToolbar();
+
+	TSharedRef<SDockTab> SpawnViewportTab(const FSpawnTabArgs& Args);
+	TSharedRef<SDockTab> SpawnPropertiesTab(const FSpawnTabArgs& Args);
+	TSharedRef<SDockTab> SpawnPreviewSceneSettingsTab(const FSpawnTabArgs& Args);
+	TSharedRef<SDockTab> SpawnTandemTreeTab(const FSpawnTabArgs& Args);
+	TSharedRef<SDockTab> SpawnSecondaryToolbarTab(const FSpawnTabArgs& Args);
+	void OnViewportLayoutChanged();
+
 	void ToggleUnifiedMaterial();
 	void ToggleWeld();
 
@@ -112,6 +143,8 @@ private:
 	TSharedPtr<FEditorViewportTabContent> ViewportTabContent;
 	TSharedPtr<IDetailsView> DetailsView;
 	TSharedPtr<IZEFTandemTree> TandemTree;
+	TSharedPtr<FExtender> ToolbarExtender;
+	AssetEditorViewportFactoryFunction MakeViewportFunc;
 	TMap<int32, TArray<UPrimitiveComponent*>> ObjectComponents; // by object type; owned by their actors
 	UZEFTandemClientComponent* Client = nullptr;				// kept alive by the preview scene
 	TArray<UPrimitiveComponent*> SelectedObjects;
@@ -122,6 +155,9 @@ private:
 	bool bWeld = false;
 	bool bUnifiedMaterial = false;
 	ZefTandemCore::TandemAvailability Availability;
+	TSharedPtr<SWindow> ParentFrame;
 	FSimpleMulticastDelegate OnPostUndo;
 	FSimpleMulticastDelegate OnPostRedo;
+	TSharedPtr<SWidget> SecondaryToolbarContent; // kept for when its tab opens
+	TSharedPtr<SBorder> SecondaryToolbarBorder;	 // in the open tab
 };

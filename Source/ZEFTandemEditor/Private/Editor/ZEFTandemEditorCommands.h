@@ -4,11 +4,16 @@
 
 #include "Framework/Commands/Commands.h"
 
+struct FToolMenuSection;
+
 class FZEFTandemEditorCommands : public TCommands<FZEFTandemEditorCommands>
 {
 public:
 	FZEFTandemEditorCommands();
 	virtual void RegisterCommands() override;
+
+	/** Adds a button "ConnectToTandem" for the state of the connection; for whoever offers one. */
+	static void BuildToolbar(FToolMenuSection& Section, bool bUnused);
 
 	TSharedPtr<FUICommandInfo> FocusCamera;
 	TSharedPtr<FUICommandInfo> Tandem;
@@ -16,4 +21,14 @@ public:
 	TSharedPtr<FUICommandInfo> ToggleTandemConnectionState; // bound to nothing
 	TSharedPtr<FUICommandInfo> SetUnifiedMaterial;
 	TSharedPtr<FUICommandInfo> SetWeld; // bound to nothing
+	TSharedPtr<FUICommandInfo> SaveAsStaticMesh;
+	TSharedPtr<FUICommandInfo> SaveAsSkeletalMesh;
+	TSharedPtr<FUICommandInfo> SaveAsGeometryCache;
+	TSharedPtr<FUICommandInfo> SaveAsAnimSequence;
+	TSharedPtr<FUICommandInfo> SetShowGrid;
+	TSharedPtr<FUICommandInfo> SetShowNormals;
+	TSharedPtr<FUICommandInfo> SetShowTangents;
+	TSharedPtr<FUICommandInfo> SetShowBinormals;
+	TSharedPtr<FUICommandInfo> MetahumanExportAsTandem;
+	TSharedPtr<FUICommandInfo> StaticMeshExportAsTandem;
 };

@@ -87,7 +87,7 @@ UPrimitiveComponent* FZEFTandemEditor::AddObject(int32 ObjectType, const FZEFSur
 void FZEFTandemEditor::RemoveObject(int32 ObjectType, UPrimitiveComponent* Component)
 {
 	const TSharedPtr<SZEFTandemEditorViewport> Viewport = GetViewport();
-	if (!Viewport.IsValid())
+	if (!Viewport.IsValid() || Component == nullptr)
 	{
 		return;
 	}
@@ -120,6 +120,10 @@ void FZEFTandemEditor::SetSelectedObjects(const TArray<UPrimitiveComponent*>& Ob
 	Listed.Reserve(SelectedObjects.Num());
 	for (UPrimitiveComponent* const Object : SelectedObjects)
 	{
+		if (Object == nullptr)
+		{
+			continue;
+		}
 		GEditor->SelectComponent(Object, true, true, false);
 		Listed.Add(Object);
 	}
@@ -130,8 +134,12 @@ void FZEFTandemEditor::SetSelectedObjects(const TArray<UPrimitiveComponent*>& Ob
 		{
 			Redraw(Viewport);
 		}
-		TandemTree->SelectItemsBy([this](const IZEFTandemTreeItem& Item)
-			{ return SelectedObjects.Contains(Item.GetPreviewSceneComponent()); });
+		TandemTree->SelectItemsBy(
+			[this](const IZEFTandemTreeItem& Item)
+			{
+				UPrimitiveComponent* const Component = Item.GetPreviewSceneComponent();
+				return Component != nullptr && SelectedObjects.Contains(Component);
+			});
 	}
 }
 
@@ -191,6 +199,10 @@ void FZEFTandemEditor::FocusCamera()
 	for (const TSharedPtr<IZEFTandemTreeItem>& Item : TandemTree->GetSelectedItems())
 	{
 		const UPrimitiveComponent* const Component = Item->GetPreviewSceneComponent();
+		if (Component == nullptr)
+		{
+			continue;
+		}
 		Box += FBox::BuildAABB(Component->Bounds.Origin, Component->Bounds.BoxExtent);
 	}
 	Box = Box.ExpandBy(FocusMargin);

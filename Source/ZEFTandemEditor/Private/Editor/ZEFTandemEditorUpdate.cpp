@@ -40,7 +40,9 @@ bool ConfirmUpdate()
 
 void FZEFTandemEditor::RequestUpdate()
 {
-	if (!ConfirmUpdate())
+	// While the warning stands the user may close the editor.
+	const TSharedRef<FZEFEditorToolkit> KeepAlive = AsShared();
+	if (!ConfirmUpdate() || !IsHosted())
 	{
 		return;
 	}
