@@ -28,7 +28,9 @@ struct FDetailsViewArgs
 	uint8 bLockable : 1 = 0;
 	uint8 bAllowSearch : 1 = 1;
 	uint8 bHideSelectionTip : 1 = 0;
+	uint8 bSearchInitialKeyFocus : 1 = 0;
 	uint8 bShowOptions : 1 = 1;
+	uint8 bShowPropertyMatrixButton : 1 = 1;
 	uint8 bAllowFavoriteSystem : 1 = 1;
 	uint8 bAllowMultipleTopLevelObjects : 1 = 0;
 	uint8 bShowScrollBar : 1 = 1;
