@@ -47,3 +47,9 @@ if(ZEF_SANITIZE)
 		add_compile_options(-fno-sanitize-recover=undefined)
 	endif()
 endif()
+
+# Every module tells the fuzzer which of its branches were taken; only the fuzzers themselves link its main.
+if(ZEF_FUZZERS)
+	add_compile_options(-fsanitize=fuzzer-no-link)
+	add_link_options(-fsanitize=fuzzer-no-link)
+endif()
