@@ -246,6 +246,13 @@ private:
 };
 } // namespace
 
+FJsonValue::FJsonValue() = default;
+FJsonValue::FJsonValue(const FJsonValue& Other) = default;
+FJsonValue::FJsonValue(FJsonValue&& Other) noexcept = default;
+FJsonValue& FJsonValue::operator=(const FJsonValue& Other) = default;
+FJsonValue& FJsonValue::operator=(FJsonValue&& Other) noexcept = default;
+FJsonValue::~FJsonValue() = default;
+
 const FJsonValue* FJsonValue::Find(const TCHAR* Key) const
 {
 	for (int32 Index = Keys.Num() - 1; Index >= 0; --Index)

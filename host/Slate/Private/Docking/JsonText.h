@@ -28,6 +28,14 @@ struct FJsonValue
 	TArray<FJsonValue> Items;
 	TArray<FString> Keys;
 
+	// Defined where the class is complete: an array of it asks whether it can be copied.
+	FJsonValue();
+	FJsonValue(const FJsonValue& Other);
+	FJsonValue(FJsonValue&& Other) noexcept;
+	FJsonValue& operator=(const FJsonValue& Other);
+	FJsonValue& operator=(FJsonValue&& Other) noexcept;
+	~FJsonValue();
+
 	/** Null when this is no object or lacks the key; of a repeated key the last counts. */
 	const FJsonValue* Find(const TCHAR* Key) const;
 };
