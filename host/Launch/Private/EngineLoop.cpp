@@ -11,6 +11,7 @@
 #include "Host/Docking.h"
 #include "Host/DocumentationPages.h"
 #include "Host/EditorStyle.h"
+#include "Host/LevelEditorFrame.h"
 #include "Host/MainFrame.h"
 #include "Host/Modules.h"
 #include "Host/Notifications.h"
@@ -110,6 +111,16 @@ bool FEngineLoop::MountContentFolders(const FEngineLoopOptions& Options, FString
 	return true;
 }
 
+TSharedRef<FLevelEditorFrame> FEngineLoop::OpenLevelEditor()
+{
+	checkf(bRunning, TEXT("The level editor needs a running engine"));
+	if (!LevelEditor.IsValid() || !LevelEditor->IsOpen())
+	{
+		LevelEditor = FLevelEditorFrame::Open();
+	}
+	return LevelEditor.ToSharedRef();
+}
+
 void FEngineLoop::Tick(double DeltaSeconds)
 {
 	AdvanceTime(DeltaSeconds);
@@ -127,6 +138,11 @@ void FEngineLoop::Exit()
 		return;
 	}
 	bRunning = false;
+	if (LevelEditor.IsValid())
+	{
+		LevelEditor->Close();
+		LevelEditor.Reset();
+	}
 	FGlobalTabmanager::Get()->SaveAllVisualState();
 	CloseAllToolkits();
 	ShutdownModules();

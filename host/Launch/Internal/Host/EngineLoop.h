@@ -6,6 +6,8 @@
 
 namespace Host
 {
+class FLevelEditorFrame;
+
 struct FEngineLoopOptions
 {
 	/** Folder with Config/, Content/ and Saved/, the last of which is written to. Empty: nothing is read or kept. */
@@ -40,6 +42,12 @@ public:
 	bool IsRunning() const { return bRunning; }
 
 	/**
+	 * The main window, made now when there is none. It is closed by the user, by itself or with the engine, which
+	 * somebody has to end then. Programs that need no window do not ask for it.
+	 */
+	TSharedRef<FLevelEditorFrame> OpenLevelEditor();
+
+	/**
 	 * One frame: the clock advances, timers, editor objects and viewports tick, viewports that are out of date are
 	 * drawn, notifications end, and garbage is collected when it was asked for or a minute has passed since the last
 	 * time.
@@ -58,6 +66,7 @@ private:
 	bool MountContentFolders(const FEngineLoopOptions& Options, FString& OutError);
 
 	TArray<FString> MountedRoots;
+	TSharedPtr<FLevelEditorFrame> LevelEditor;
 	bool bRunning = false;
 };
 } // namespace Host

@@ -107,12 +107,14 @@ public:
 	const FMultiBoxItemInfo& GetInfo() const { return Block->Info; }
 	const FMultiBoxItemBlock& GetBlock() const { return *Block; }
 
-	/** Runs the action if it may; true when it ran. */
+	/** Runs the action if it may; true when it ran. The open menu that the piece stands in closes before. */
 	bool Press();
 	/** What the piece opens, made anew each time; the null widget when it opens nothing. */
 	TSharedRef<SWidget> OpenMenu() const;
 
 private:
+	void CloseMenu();
+
 	TSharedPtr<const FMultiBoxItemBlock> Block;
 	TWeakPtr<SMultiBoxWidget> Owner;
 	FString Path;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "Framework/Application/SlateApplication.h"
 #include "Host/MultiBoxes.h"
 #include "Host/WidgetTree.h"
 #include "Widgets/SNullWidget.h"
@@ -182,17 +183,37 @@ FName SMultiBoxItem::GetStyleName() const
 
 bool SMultiBoxItem::Press()
 {
-	// The action may rebuild the box and with it this piece.
+	// The action may rebuild the box and with it this piece, and a menu closes before its entry acts.
+	const TSharedRef<SWidget> KeepAlive = AsShared();
 	const TSharedRef<const FMultiBoxItemBlock> Pressed = Block.ToSharedRef();
 	if (!IsItemEnabled() || !IsItemVisible())
 	{
 		return false;
 	}
+	CloseMenu();
 	if (!Pressed->GetAction().IsValid())
 	{
 		return Pressed->GetDirectActions().Execute();
 	}
 	return Pressed->GetActionList()->ExecuteAction(Pressed->GetAction().ToSharedRef());
+}
+
+void SMultiBoxItem::CloseMenu()
+{
+	const TSharedPtr<SMultiBoxWidget> Box = Owner.Pin();
+	if (!FSlateApplication::IsInitialized() || !Box.IsValid() || Box->GetMultiBox()->GetType() != EMultiBoxType::Menu ||
+		!Box->GetMultiBox()->ShouldCloseWindowAfterMenuSelection())
+	{
+		return;
+	}
+	if (Block->Info.bCloseSelfOnly)
+	{
+		FSlateApplication::Get().DismissMenuByWidget(Box.ToSharedRef());
+	}
+	else
+	{
+		FSlateApplication::Get().DismissAllMenus();
+	}
 }
 
 TSharedRef<SWidget> SMultiBoxItem::OpenMenu() const
