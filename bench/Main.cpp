@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+/** zef-bench SUBJECT [--tables FILE]: measures one subject and prints its tables. */
+
+#include "Subjects/Subjects.h"
+#include "Support/Comparison.h"
+#include "Support/Machine.h"
+#include "Zef/Peer/FilesReader.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <vector>
+
+namespace
+{
+
+struct FSubject
+{
+	const char* Name;
+	void (*Measure)(Bench::FSuite&);
+};
+
+constexpr FSubject Subjects[] = {{"dynamic-mesh", &Bench::MeasureDynamicMesh},
+	{"skeletal-mesh", &Bench::MeasureSkeletalMesh}, {"checker", &Bench::MeasureChecker}, {"link", &Bench::MeasureLink},
+	{"road", &Bench::MeasureRoad}};
+
+int Usage()
+{
+	std::fprintf(stderr, "usage: zef-bench machine | SUBJECT [--tables FILE]\nsubjects:");
+	for (const FSubject& Subject : Subjects)
+	{
+		std::fprintf(stderr, " %s", Subject.Name);
+	}
+	std::fprintf(stderr, "\nFILE receives what is printed, at its end. Other options are Google Benchmark's.\n");
+	return 2;
+}
+
+void Put(const std::string& Text, const char* File)
+{
+	std::fputs(Text.c_str(), stdout);
+	if (File != nullptr)
+	{
+		std::ofstream(File, std::ios::app) << Text;
+	}
+}
+
+} // namespace
+
+int main(int ArgumentCount, char** Arguments)
+{
+	// Model files are read in a process of their own, which is this program again.
+	if (const int Status = Zef::Peer::MaybeRunModelReader(ArgumentCount, Arguments); Status >= 0)
+	{
+		return Status;
+	}
+	if (ArgumentCount < 2)
+	{
+		return Usage();
+	}
+	const char* const Name = Arguments[1];
+	const char* File = nullptr;
+	std::vector<char*> Rest = {Arguments[0]};
+	char Interleave[] = "--benchmark_enable_random_interleaving=true";
+	Rest.push_back(Interleave);
+	for (int Index = 2; Index < ArgumentCount; ++Index)
+	{
+		if (std::strcmp(Arguments[Index], "--tables") == 0 && Index + 1 < ArgumentCount)
+		{
+			File = Arguments[++Index];
+		}
+		else
+		{
+			Rest.push_back(Arguments[Index]);
+		}
+	}
+	if (std::strcmp(Name, "machine") == 0)
+	{
+		Put(Bench::DescribeMachine(), File);
+		return 0;
+	}
+	for (const FSubject& Subject : Subjects)
+	{
+		if (std::strcmp(Name, Subject.Name) == 0)
+		{
+			int RestCount = static_cast<int>(Rest.size());
+			benchmark::Initialize(&RestCount, Rest.data());
+			Bench::FSuite Suite;
+			Subject.Measure(Suite);
+			const bool bAgreed = Suite.Run();
+			Put(Suite.Tables(), File);
+			return bAgreed ? 0 : 1;
+		}
+	}
+	return Usage();
+}

@@ -1,0 +1,2 @@
+#include "Subjects/Subjects.h"
+namespace Bench { void MeasureRoad(FSuite&) {} }

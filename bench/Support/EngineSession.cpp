@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "Support/EngineSession.h"
+
+#include "Containers/StringConv.h"
+#include "Host/EngineLoop.h"
+#include "Host/FilePackageStore.h"
+#include "UObject/GarbageCollection.h"
+#include "UObject/UObjectGlobals.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace Bench
+{
+
+namespace
+{
+
+/** An empty project, removed at the end of the program. */
+struct FSession
+{
+	std::string Folder = (std::filesystem::temp_directory_path() / "zef-bench-XXXXXX").string();
+	Host::FFilePackageStore PackageStore;
+	Host::FEngineLoop Engine;
+	std::string Error;
+
+	FSession()
+	{
+		if (mkdtemp(Folder.data()) == nullptr)
+		{
+			Error = "no temporary folder can be made";
+			return;
+		}
+		for (const char* Part : {"Config", "Content", "Saved"})
+		{
+			std::filesystem::create_directory(std::filesystem::path(Folder) / Part);
+		}
+		Host::SetPackageStore(&PackageStore);
+		Host::FEngineLoopOptions Options;
+		Options.ProjectDir = FString(UTF8_TO_TCHAR(Folder.c_str()));
+		Options.PluginDir = TEXT(ZEF_SOURCE_DIR);
+		Options.Modules = {TEXT("ZEFTandemRuntime"), TEXT("ZEFTandemEditor")};
+		FString BootError;
+		if (!Engine.Init(Options, BootError))
+		{
+			Error = TCHAR_TO_UTF8(*BootError);
+		}
+	}
+	~FSession()
+	{
+		Engine.Exit();
+		Host::SetPackageStore(nullptr);
+		std::error_code Ignored;
+		std::filesystem::remove_all(Folder, Ignored);
+	}
+};
+
+} // namespace
+
+std::string StartEngine()
+{
+	static FSession Session;
+	return Session.Error;
+}
+
+void CollectObjects()
+{
+	CollectGarbage(RF_NoFlags);
+}
+
+} // namespace Bench
