@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/** zef-bench SUBJECT [--tables FILE]: measures one subject and prints its tables. */
+/** zef-bench SUBJECT [--tables FILE] [--repetitions N]: measures one subject and prints its tables. */
 
 #include "Subjects/Subjects.h"
 #include "Support/Comparison.h"
@@ -8,7 +8,9 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <vector>
@@ -28,12 +30,12 @@ constexpr FSubject Subjects[] = {{"dynamic-mesh", &Bench::MeasureDynamicMesh},
 
 int Usage()
 {
-	std::fprintf(stderr, "usage: zef-bench machine | SUBJECT [--tables FILE]\nsubjects:");
+	std::fprintf(stderr, "usage: zef-bench machine | SUBJECT [--tables FILE] [--repetitions N]\nsubjects:");
 	for (const FSubject& Subject : Subjects)
 	{
 		std::fprintf(stderr, " %s", Subject.Name);
 	}
-	std::fprintf(stderr, "\nFILE receives what is printed, at its end. Other options are Google Benchmark's.\n");
+	std::fprintf(stderr, "\nFILE receives what is printed, at its end. N is 9 if not said otherwise. Other options are Google Benchmark's.\n");
 	return 2;
 }
 
@@ -61,6 +63,7 @@ int main(int ArgumentCount, char** Arguments)
 	}
 	const char* const Name = Arguments[1];
 	const char* File = nullptr;
+	int Repetitions = 9;
 	std::vector<char*> Rest = {Arguments[0]};
 	char Interleave[] = "--benchmark_enable_random_interleaving=true";
 	Rest.push_back(Interleave);
@@ -69,6 +72,10 @@ int main(int ArgumentCount, char** Arguments)
 		if (std::strcmp(Arguments[Index], "--tables") == 0 && Index + 1 < ArgumentCount)
 		{
 			File = Arguments[++Index];
+		}
+		else if (std::strcmp(Arguments[Index], "--repetitions") == 0 && Index + 1 < ArgumentCount)
+		{
+			Repetitions = std::max(1, std::atoi(Arguments[++Index]));
 		}
 		else
 		{
@@ -88,7 +95,7 @@ int main(int ArgumentCount, char** Arguments)
 			benchmark::Initialize(&RestCount, Rest.data());
 			Bench::FSuite Suite;
 			Subject.Measure(Suite);
-			const bool bAgreed = Suite.Run();
+			const bool bAgreed = Suite.Run(Repetitions);
 			Put(Suite.Tables(), File);
 			return bAgreed ? 0 : 1;
 		}

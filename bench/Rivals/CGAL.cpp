@@ -29,7 +29,8 @@ std::unique_ptr<IRivalMesh> BuildCgal(std::size_t Vertices, std::span<const std:
 	auto Built = std::make_unique<FRivalMesh>();
 	FMesh& Mesh = Built->Mesh;
 	const std::size_t Triangles = Indices.size() / 3;
-	const auto Id = [&Indices](std::size_t Corner) { return FMesh::Vertex_index(static_cast<unsigned>(Indices[Corner])); };
+	const auto Id = [&Indices](std::size_t Corner)
+	{ return FMesh::Vertex_index(static_cast<unsigned>(Indices[Corner])); };
 	Mesh.reserve(static_cast<unsigned>(Vertices), static_cast<unsigned>(Triangles * 3 / 2 + Vertices / 64),
 		static_cast<unsigned>(Triangles));
 	for (std::size_t Vertex = 0; Vertex < Vertices; ++Vertex)

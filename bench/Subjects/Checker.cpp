@@ -54,8 +54,8 @@ void AddCase(FSuite& Suite, const std::string& Title, Zef::FSurfaceMesh&& Made)
 	Comparison.Title = Title;
 	Comparison.Items = static_cast<double>(Mesh->Surfaces[0].Sections[0].Indices.size() / 3);
 	Comparison.Unit = "triangles";
-	Comparison.Contenders.push_back({"CheckMesh",
-		[Mesh] { benchmark::DoNotOptimize(Zef::CheckMesh(*Mesh, Zef::EIndexBase::Surface).Code); }, {}});
+	Comparison.Contenders.push_back(
+		{"CheckMesh", [Mesh] { benchmark::DoNotOptimize(Zef::CheckMesh(*Mesh, Zef::EIndexBase::Surface).Code); }, {}});
 	Comparison.Contenders.push_back(
 		{"reading the same bytes once", [Mesh] { benchmark::DoNotOptimize(ReadAll(*Mesh)); }, {}, RequiredRatio});
 	Suite.Add(std::move(Comparison));

@@ -1,2 +1,5 @@
 #include "Subjects/Subjects.h"
-namespace Bench { void MeasureLink(FSuite&) {} }
+namespace Bench
+{
+void MeasureLink(FSuite&) {}
+} // namespace Bench

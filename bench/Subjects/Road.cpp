@@ -1,2 +1,5 @@
 #include "Subjects/Subjects.h"
-namespace Bench { void MeasureRoad(FSuite&) {} }
+namespace Bench
+{
+void MeasureRoad(FSuite&) {}
+} // namespace Bench

@@ -24,7 +24,8 @@ constexpr int Rows = 499; // 400 * 500 vertices
 constexpr int Joints = 100;
 constexpr int Influences = 12;
 
-/** A corner as a vertex cache would see it: what the record says of its vertex, with the weights as the engine has them.
+/** A corner as a vertex cache would see it: what the record says of its vertex, with the weights as the engine has
+ * them.
  */
 struct FCorner
 {
@@ -53,8 +54,8 @@ std::vector<FCorner> SpreadCorners(const Zef::FSurfaceMesh& Mesh)
 	for (const std::int32_t Index : Surface.Sections[0].Indices)
 	{
 		const auto Vertex = static_cast<std::size_t>(Index);
-		FCorner& Corner = Corners.emplace_back(FCorner{Surface.Positions[Vertex], Surface.Normals[Vertex],
-			Surface.Tangents[Vertex], Surface.UVs[Vertex], {}, {}});
+		FCorner& Corner = Corners.emplace_back(FCorner{
+			Surface.Positions[Vertex], Surface.Normals[Vertex], Surface.Tangents[Vertex], Surface.UVs[Vertex], {}, {}});
 		for (int Slot = 0; Slot < Influences; ++Slot)
 		{
 			const Zef::FBoneWeight& Weight =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-/** What can be measured; each prepares its data, compares the results of all contenders, and adds what is to be timed. */
+/** What can be measured; each prepares its data, compares the results of all contenders, and adds what is to be timed.
+ */
 #pragma once
 
 namespace Bench

@@ -14,8 +14,6 @@ namespace Bench
 namespace
 {
 
-constexpr int Repetitions = 9;
-
 std::string Format(const char* Pattern, double Value)
 {
 	char Buffer[64];
@@ -99,6 +97,13 @@ bool IsDemanded(const FComparison& Comparison, std::size_t Index, const std::vec
 
 std::string TableOf(const FComparison& Comparison, std::size_t Number, const std::map<std::string, FTimes>& Times)
 {
+	for (std::size_t Index = 0; Index < Comparison.Contenders.size(); ++Index)
+	{
+		if (!Times.contains(NameOf(Number, Index)))
+		{
+			return Comparison.Title + ": not all contenders were run\n\n";
+		}
+	}
 	std::vector<double> Medians;
 	for (std::size_t Index = 0; Index < Comparison.Contenders.size(); ++Index)
 	{
@@ -168,7 +173,7 @@ void FSuite::Fail(const std::string& Sentence)
 	Failures.push_back(Sentence);
 }
 
-bool FSuite::Run()
+bool FSuite::Run(int Repetitions)
 {
 	if (!Failures.empty())
 	{

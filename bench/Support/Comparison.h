@@ -58,8 +58,8 @@ public:
 	/** Results of contenders differ: nothing is timed, and the program fails. */
 	void Fail(const std::string& Sentence);
 
-	/** Nine rounds over all contenders in random order, then the tables. @return whether all results agreed */
-	bool Run();
+	/** So many rounds over all contenders in random order, then the tables. @return whether all results agreed */
+	bool Run(int Repetitions);
 	/** The tables as Markdown. */
 	const std::string& Tables() const { return Text; }
 

@@ -10,40 +10,32 @@ namespace UE::Geometry
 namespace
 {
 /**
- * Longest list of edges that is looked through. Vertices of ordinary meshes have about six edges, and a list in memory
- * order is read faster than a hash table; beyond some dozens it is the other way round.
+ * Longest list of edges that is looked through. Vertices of ordinary meshes are the lower end of about three edges, and
+ * a list in memory order is read faster than a hash table; beyond some dozens it is the other way round.
  */
-constexpr int32 MaxListedEdges = 32;
+constexpr int MaxListedEdges = 32;
 } // namespace
 
-int& FDynamicMesh3::NextEdge(int VertexID, int EdgeID)
+/** OutSteps receives how many edges were looked at. */
+FORCEINLINE int FDynamicMesh3::FindEdgeOf(const FVertex& Lower, int LowerID, int HigherID, int& OutSteps) const
 {
-	FEdge& Edge = Edges.At(EdgeID);
-	return Edge.Vert.A == VertexID ? Edge.Next.A : Edge.Next.B;
-}
-
-int FDynamicMesh3::FindEdgeBetween(int IdA, const FVertex& A, int IdB, const FVertex& B) const
-{
-	// Every edge hangs in the lists of both its vertices, so the shorter list is enough: a fan costs its centre
-	// nothing.
-	const bool bFromA = A.NumEdges <= B.NumEdges;
-	const int From = bFromA ? IdA : IdB;
-	const int To = bFromA ? IdB : IdA;
-	if (A.bHub && B.bHub)
-	{
-		const int32* const Found = HubEdges.Find(FHubEdgeKey(IdA, IdB));
-		return Found != nullptr ? *Found : InvalidID;
-	}
-	int EdgeID = bFromA ? A.FirstEdge : B.FirstEdge;
-	while (EdgeID != InvalidID)
+	int Steps = 0;
+	int EdgeID = Lower.FirstEdge;
+	while (EdgeID >= 0)
 	{
 		const FEdge& Edge = Edges.At(EdgeID);
-		const bool bFirst = Edge.Vert.A == From;
-		if ((bFirst ? Edge.Vert.B : Edge.Vert.A) == To)
+		if (Edge.Vert.B == HigherID)
 		{
 			break;
 		}
-		EdgeID = bFirst ? Edge.Next.A : Edge.Next.B;
+		EdgeID = Edge.Next;
+		++Steps;
+	}
+	OutSteps = Steps;
+	if (UNLIKELY(EdgeID == HubMark))
+	{
+		const int32* const Found = HubEdges.Find(FHubEdgeKey(LowerID, HigherID));
+		return Found != nullptr ? *Found : InvalidID;
 	}
 	return EdgeID;
 }
@@ -54,7 +46,9 @@ int FDynamicMesh3::FindEdge(int VertexA, int VertexB) const
 	{
 		return InvalidID;
 	}
-	return FindEdgeBetween(VertexA, Vertices[VertexA], VertexB, Vertices[VertexB]);
+	const int Lower = VertexA < VertexB ? VertexA : VertexB;
+	int Steps = 0;
+	return FindEdgeOf(Vertices[Lower], Lower, VertexA < VertexB ? VertexB : VertexA, Steps);
 }
 
 int FDynamicMesh3::FindTriangle(int A, int B, int C) const
@@ -79,120 +73,127 @@ FIndex3i FDynamicMesh3::GetTriEdges(int TriangleID) const
 		FindEdge(Triangle.A, Triangle.B), FindEdge(Triangle.B, Triangle.C), FindEdge(Triangle.C, Triangle.A));
 }
 
-int FDynamicMesh3::AppendTriangle(const FIndex3i& TriVertices, int GroupID)
+int FDynamicMesh3::AppendTriangle(int A, int B, int C, int GroupID)
 {
-	const int A = TriVertices.A;
-	const int B = TriVertices.B;
-	const int C = TriVertices.C;
-	FVertex* const VertexA = Vertices.Find(A);
-	FVertex* const VertexB = Vertices.Find(B);
-	FVertex* const VertexC = Vertices.Find(C);
-	if (A == B || B == C || C == A || VertexA == nullptr || VertexB == nullptr || VertexC == nullptr)
+	const uint32 Bound = static_cast<uint32>(Vertices.MaxID());
+	if (static_cast<uint32>(A) >= Bound || static_cast<uint32>(B) >= Bound || static_cast<uint32>(C) >= Bound ||
+		A == B || B == C || C == A)
+	{
+		return InvalidID;
+	}
+	Vertices.Own();
+	Edges.Own();
+	FVertex& VertexA = Vertices.AtOwned(A);
+	FVertex& VertexB = Vertices.AtOwned(B);
+	FVertex& VertexC = Vertices.AtOwned(C);
+	if (!VertexA.IsLive() || !VertexB.IsLive() || !VertexC.IsLive())
 	{
 		return InvalidID;
 	}
 
-	const int EdgeIDs[3] = {FindEdgeBetween(A, *VertexA, B, *VertexB), FindEdgeBetween(B, *VertexB, C, *VertexC),
-		FindEdgeBetween(C, *VertexC, A, *VertexA)};
-	for (const int EdgeID : EdgeIDs)
+	int StepsAB = 0;
+	int StepsBC = 0;
+	int StepsCA = 0;
+	const int EdgeAB = A < B ? FindEdgeOf(VertexA, A, B, StepsAB) : FindEdgeOf(VertexB, B, A, StepsAB);
+	const int EdgeBC = B < C ? FindEdgeOf(VertexB, B, C, StepsBC) : FindEdgeOf(VertexC, C, B, StepsBC);
+	const int EdgeCA = C < A ? FindEdgeOf(VertexC, C, A, StepsCA) : FindEdgeOf(VertexA, A, C, StepsCA);
+	if ((EdgeAB >= 0 && Edges.AtOwned(EdgeAB).Tri.B >= 0) || (EdgeBC >= 0 && Edges.AtOwned(EdgeBC).Tri.B >= 0) ||
+		(EdgeCA >= 0 && Edges.AtOwned(EdgeCA).Tri.B >= 0))
 	{
-		if (EdgeID != InvalidID && !IsBoundaryEdge(EdgeID))
-		{
-			return NonManifoldID;
-		}
+		return NonManifoldID;
 	}
-	if (EdgeIDs[0] != InvalidID && EdgeIDs[1] != InvalidID && EdgeIDs[2] != InvalidID &&
-		Triangles[Edges[EdgeIDs[0]].Tri.A].Vert.Contains(C))
+	if (EdgeAB >= 0 && EdgeBC >= 0 && EdgeCA >= 0 && Triangles[Edges.AtOwned(EdgeAB).Tri.A].Vert.Contains(C))
 	{
 		return DuplicateTriangleID;
 	}
 
-	const int TriangleID = Triangles.Add(FTriangle{TriVertices});
+	const int TriangleID = Triangles.Add(FTriangle{{A, B, C}});
 	if (TriangleGroups.IsSet())
 	{
-		TArray<int32>& Groups = TriangleGroups.GetValue();
-		if (TriangleID == Groups.Num())
-		{
-			Groups.Add(GroupID);
-		}
-		else
-		{
-			Groups[TriangleID] = GroupID;
-		}
+		StoreGroup(TriangleID, GroupID);
 	}
-
-	const int Corners[4] = {A, B, C, A};
-	for (int Side = 0; Side < 3; ++Side)
-	{
-		if (EdgeIDs[Side] != InvalidID)
-		{
-			Edges.At(EdgeIDs[Side]).Tri.B = TriangleID;
-		}
-		else
-		{
-			AddEdge(Corners[Side], Corners[Side + 1], TriangleID);
-		}
-	}
-	++VertexA->NumTriangles;
-	++VertexB->NumTriangles;
-	++VertexC->NumTriangles;
+	++VertexA.NumTriangles;
+	++VertexB.NumTriangles;
+	++VertexC.NumTriangles;
+	JoinEdge(EdgeAB, A, B, TriangleID, StepsAB);
+	JoinEdge(EdgeBC, B, C, TriangleID, StepsBC);
+	JoinEdge(EdgeCA, C, A, TriangleID, StepsCA);
 	return TriangleID;
 }
 
-void FDynamicMesh3::AddEdge(int VertexA, int VertexB, int TriangleID)
+/** Makes the triangle the second of an edge, or the first of a new one between two vertices. */
+FORCEINLINE void FDynamicMesh3::JoinEdge(int EdgeID, int VertexA, int VertexB, int TriangleID, int Steps)
 {
-	const FIndex2i Vert = VertexA < VertexB ? FIndex2i(VertexA, VertexB) : FIndex2i(VertexB, VertexA);
-	const int EdgeID = Edges.Add(FEdge{Vert, {TriangleID, InvalidID}, InvalidEdge});
-	LinkEdge(VertexA, EdgeID);
-	LinkEdge(VertexB, EdgeID);
-	if (Vertices[VertexA].bHub && Vertices[VertexB].bHub)
+	if (EdgeID >= 0)
 	{
-		HubEdges.Add(FHubEdgeKey(VertexA, VertexB), EdgeID);
+		Edges.AtOwned(EdgeID).Tri.B = TriangleID;
+	}
+	else if (VertexA < VertexB)
+	{
+		AddEdge(VertexA, VertexB, TriangleID, Steps);
+	}
+	else
+	{
+		AddEdge(VertexB, VertexA, TriangleID, Steps);
 	}
 }
 
-void FDynamicMesh3::LinkEdge(int VertexID, int EdgeID)
+/** Steps is how many edges its lower vertex was seen to have. */
+FORCEINLINE void FDynamicMesh3::AddEdge(int LowerID, int HigherID, int TriangleID, int Steps)
 {
-	FVertex& Vertex = Vertices.At(VertexID);
-	NextEdge(VertexID, EdgeID) = Vertex.FirstEdge;
-	Vertex.FirstEdge = EdgeID;
-	if (++Vertex.NumEdges > MaxListedEdges && !Vertex.bHub)
+	FVertex& Lower = Vertices.AtOwned(LowerID);
+	const int EdgeID = Edges.Add(FEdge{{LowerID, HigherID}, {TriangleID, InvalidID}, Lower.FirstEdge});
+	if (UNLIKELY(Lower.FirstEdge == HubMark))
 	{
-		MakeHub(VertexID);
+		HubEdges.Add(FHubEdgeKey(LowerID, HigherID), EdgeID);
+		return;
+	}
+	Lower.FirstEdge = EdgeID;
+	if (UNLIKELY(Steps >= MaxListedEdges))
+	{
+		MakeHub(LowerID);
 	}
 }
 
-void FDynamicMesh3::MakeHub(int VertexID)
-{
-	Vertices[VertexID].bHub = true;
-	for (int EdgeID = Vertices[VertexID].FirstEdge; EdgeID != InvalidID; EdgeID = NextEdge(VertexID, EdgeID))
-	{
-		const int Other = Edges[EdgeID].Vert.OtherElement(VertexID);
-		if (Vertices[Other].bHub)
-		{
-			HubEdges.Add(FHubEdgeKey(VertexID, Other), EdgeID);
-		}
-	}
-}
-
-void FDynamicMesh3::UnlinkEdge(int VertexID, int EdgeID)
+FORCENOINLINE void FDynamicMesh3::MakeHub(int VertexID)
 {
 	FVertex& Vertex = Vertices[VertexID];
-	int* Link = &Vertex.FirstEdge;
-	while (*Link != EdgeID)
+	for (int EdgeID = Vertex.FirstEdge; EdgeID != InvalidID; EdgeID = Edges[EdgeID].Next)
 	{
-		Link = &NextEdge(VertexID, *Link);
+		HubEdges.Add(FHubEdgeKey(VertexID, Edges[EdgeID].Vert.B), EdgeID);
 	}
-	*Link = NextEdge(VertexID, EdgeID);
-	--Vertex.NumEdges;
+	Vertex.FirstEdge = HubMark;
+}
+
+FORCENOINLINE void FDynamicMesh3::StoreGroup(int TriangleID, int GroupID)
+{
+	TArray<int32>& Groups = TriangleGroups.GetValue();
+	if (TriangleID == Groups.Num())
+	{
+		Groups.Add(GroupID);
+	}
+	else
+	{
+		Groups[TriangleID] = GroupID;
+	}
 }
 
 void FDynamicMesh3::RemoveEdge(int EdgeID)
 {
 	const FIndex2i Vert = GetEdgeV(EdgeID);
-	UnlinkEdge(Vert.A, EdgeID);
-	UnlinkEdge(Vert.B, EdgeID);
-	HubEdges.Remove(FHubEdgeKey(Vert.A, Vert.B));
+	if (Vertices[Vert.A].FirstEdge == HubMark)
+	{
+		HubEdges.Remove(FHubEdgeKey(Vert.A, Vert.B));
+	}
+	else
+	{
+		int32* Link = &Vertices[Vert.A].FirstEdge;
+		while (*Link != EdgeID)
+		{
+			Link = &Edges[*Link].Next;
+		}
+		*Link = Edges[EdgeID].Next;
+	}
 	Edges.Free(EdgeID);
 }
 

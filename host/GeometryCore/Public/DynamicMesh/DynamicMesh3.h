@@ -96,6 +96,8 @@ public:
 	FIndex3i GetTriEdges(int TriangleID) const;
 	/** 0 on a mesh without triangle groups. */
 	int GetTriangleGroup(int TriangleID) const;
+	/** How many triangles have the vertex as a corner. */
+	int GetVtxTriangleCount(int VertexID) const { return Vertices[VertexID].NumTriangles; }
 	/** Edge between two vertices in either order, InvalidID when there is none. */
 	int FindEdge(int VertexA, int VertexB) const;
 	/** Triangle of three vertices in any order, InvalidID when there is none. */
@@ -141,11 +143,11 @@ public:
 	 *         NonManifoldID (an edge would get a third triangle) or
 	 *         DuplicateTriangleID (the three vertices form a triangle already, in either winding)
 	 */
-	int AppendTriangle(const FIndex3i& TriVertices, int GroupID = 0);
-	int AppendTriangle(int Vertex0, int Vertex1, int Vertex2, int GroupID = 0)
+	int AppendTriangle(const FIndex3i& TriVertices, int GroupID = 0)
 	{
-		return AppendTriangle(FIndex3i(Vertex0, Vertex1, Vertex2), GroupID);
+		return AppendTriangle(TriVertices.A, TriVertices.B, TriVertices.C, GroupID);
 	}
+	int AppendTriangle(int Vertex0, int Vertex1, int Vertex2, int GroupID = 0);
 
 	/**
 	 * Removes a triangle, the edges that only it had, and its overlay elements that nothing else uses.
@@ -175,13 +177,10 @@ private:
 	/** What hangs on a vertex. */
 	struct FVertex
 	{
-		/** The list of its edges. */
+		/** The list of the edges whose lower vertex this is, or HubMark. */
 		int32 FirstEdge = InvalidID;
-		int32 NumEdges = 0;
 		/** -1 for a free id. */
 		int32 NumTriangles = 0;
-		/** Whether the vertex once had so many edges that looking through them all is slow. */
-		bool bHub = false;
 
 		bool IsLive() const { return NumTriangles >= 0; }
 		void MakeFree() { NumTriangles = -1; }
@@ -195,18 +194,25 @@ private:
 		void MakeFree() { Vert = InvalidTriangle; }
 	};
 
-	/** An edge, and where the lists of edges at its two vertices go on. */
+	/** An edge. It hangs in the list of its lower vertex alone, which is about three edges long in ordinary meshes. */
 	struct FEdge
 	{
 		/** The lower id first. */
 		FIndex2i Vert;
 		FIndex2i Tri;
-		/** Next edge at Vert.A and at Vert.B. */
-		FIndex2i Next;
+		/** Next edge at Vert.A. */
+		int32 Next = InvalidID;
 
 		bool IsLive() const { return Vert.A >= 0; }
-		void MakeFree() { Vert = Tri = Next = InvalidEdge; }
+		void MakeFree()
+		{
+			Vert = Tri = InvalidEdge;
+			Next = InvalidID;
+		}
 	};
+
+	/** FirstEdge of a vertex with so many edges that they are kept in HubEdges. */
+	static constexpr int32 HubMark = -2;
 
 	/** The vertices of an edge as a key. */
 	struct FHubEdgeKey
@@ -226,18 +232,17 @@ private:
 		}
 	};
 
-	int FindEdgeBetween(int IdA, const FVertex& A, int IdB, const FVertex& B) const;
-	void AddEdge(int VertexA, int VertexB, int TriangleID);
+	int FindEdgeOf(const FVertex& Lower, int LowerID, int HigherID, int& OutSteps) const;
+	void JoinEdge(int EdgeID, int VertexA, int VertexB, int TriangleID, int Steps);
+	void AddEdge(int LowerID, int HigherID, int TriangleID, int Steps);
+	void StoreGroup(int TriangleID, int GroupID);
 	void RemoveEdge(int EdgeID);
-	void LinkEdge(int VertexID, int EdgeID);
-	void UnlinkEdge(int VertexID, int EdgeID);
-	int& NextEdge(int VertexID, int EdgeID);
 	void MakeHub(int VertexID);
 
 	TRecordPool<FVertex> Vertices;
 	TRecordPool<FTriangle> Triangles;
 	TRecordPool<FEdge> Edges;
-	/** All edges between two hubs. */
+	/** All edges whose lower vertex is a hub. */
 	TMap<FHubEdgeKey, int32> HubEdges;
 	/** [MaxVertexID()] */
 	TBlockArray<FVector3d> Positions;

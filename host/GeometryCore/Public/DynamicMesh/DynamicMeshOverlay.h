@@ -17,6 +17,10 @@ namespace UE::Geometry
 /**
  * Elements of ElementSize numbers, and for each triangle of the mesh the three elements at its corners, or none.
  * A vertex at a seam has several elements. Element ids are given out like the mesh's ids: ascending, freed ones first.
+ *
+ * As long as there is no seam, that is as long as every triangle is given in its turn the elements that have the ids of
+ * its vertices, the overlay keeps the values alone and reads the mesh's own triangles; it becomes as large and as slow
+ * as its name says with the first triangle that differs.
  */
 template <typename RealType, int ElementSize>
 class GEOMETRYCORE_API TDynamicMeshOverlay
@@ -26,24 +30,40 @@ public:
 		: ParentMesh(InParentMesh)
 	{
 	}
+	/** InParentMesh must have the triangles of the other's mesh. */
 	TDynamicMeshOverlay(const TDynamicMeshOverlay& Other, const FDynamicMesh3* InParentMesh);
 
-	int ElementCount() const { return Elements.Num(); }
+	int ElementCount() const { return Values.Num() - FreeIds.Num(); }
 	/** One past the highest element id ever used. */
-	int MaxElementID() const { return Elements.MaxID(); }
-	bool IsElement(int ElementID) const { return Elements.IsLive(ElementID); }
+	int MaxElementID() const { return Values.Num(); }
+	bool IsElement(int ElementID) const
+	{
+		return static_cast<uint32>(ElementID) < static_cast<uint32>(Values.Num()) &&
+			   (bMirrorsMesh || Uses.At(ElementID).Num >= 0);
+	}
 	/** Live element ids in ascending order, for range-based loops. */
-	auto ElementIndicesItr() const { return Elements.Ids(); }
+	auto ElementIndicesItr() const
+	{
+		return TLiveIds<TDynamicMeshOverlay, &TDynamicMeshOverlay::IsElement>(this, MaxElementID());
+	}
 
 	/** Drops all elements and unsets all triangles. */
 	void ClearElements();
 
 	/** Id of a new element, Value is [ElementSize]. It belongs to no vertex until a triangle uses it. */
-	int AppendElement(const RealType* Value);
+	int AppendElement(const RealType* Value)
+	{
+		FValue Copy;
+		for (int Index = 0; Index < ElementSize; ++Index)
+		{
+			Copy.Numbers[Index] = Value[Index];
+		}
+		return AppendValue(Copy);
+	}
 	void SetElement(int ElementID, const RealType* Value);
 	void GetElement(int ElementID, RealType* Data) const;
 	/** Mesh vertex of an element, InvalidID while no triangle has used it. */
-	int GetParentVertex(int ElementID) const { return Elements[ElementID].ParentVertex; }
+	int GetParentVertex(int ElementID) const;
 
 	/** Makes the triangle one that has no elements, as a new one is. */
 	void InitializeNewTriangle(int TriangleID);
@@ -56,46 +76,84 @@ public:
 	 * @return Ok; or, with nothing changed, Failed_NotATriangle, Failed_NotAVertex (an id is no element) or
 	 *         Failed_InvalidNeighbourhood (an id is named twice)
 	 */
-	EMeshResult SetTriangle(int TriangleID, const FIndex3i& TriElements, bool bAllowElementFreeing = true);
+	FORCEINLINE EMeshResult SetTriangle(int TriangleID, const FIndex3i& TriElements, bool bAllowElementFreeing = true)
+	{
+		if (bMirrorsMesh && TriangleID == NumMirrored && IsMirrorOf(TriangleID, TriElements))
+		{
+			++NumMirrored;
+			return EMeshResult::Ok;
+		}
+		return SetAnyTriangle(TriangleID, TriElements, bAllowElementFreeing);
+	}
 	/** Takes a triangle's elements away. Nothing happens when it has none. */
 	void UnsetTriangle(int TriangleID, bool bAllowElementFreeing = true);
 	bool IsSetTriangle(int TriangleID) const { return GetTriangle(TriangleID).A != IndexConstants::InvalidID; }
 	/** Element ids at the corners, (-1, -1, -1) when unset. */
 	FIndex3i GetTriangle(int TriangleID) const
 	{
+		if (bMirrorsMesh)
+		{
+			return TriangleID >= 0 && TriangleID < NumMirrored ? ParentMesh->GetTriangle(TriangleID)
+															   : FIndex3i::Invalid();
+		}
 		return TriangleID >= 0 && TriangleID < ElementTriangles.Num() ? ElementTriangles.At(TriangleID)
 																	  : FIndex3i::Invalid();
 	}
 	/** Frees all elements that no triangle uses. */
 	void FreeUnusedElements();
 
-	/** The mesh calls it when the triangle goes. */
+	/** The mesh calls it when the triangle goes, while it is still there. */
 	void OnRemoveTriangle(int TriangleID) { UnsetTriangle(TriangleID, true); }
 	/** The mesh calls it when it was moved to another place. */
 	void Reparent(const FDynamicMesh3* NewParent) { ParentMesh = NewParent; }
 	const FDynamicMesh3* GetParentMesh() const { return ParentMesh; }
 
-private:
-	struct FElement
+protected:
+	struct FValue
 	{
-		RealType Value[ElementSize];
-		int32 ParentVertex = IndexConstants::InvalidID;
-		/** Triangle corners that use the element; -1 for a free id. */
-		int32 NumUses = 0;
-
-		bool IsLive() const { return NumUses >= 0; }
-		void MakeFree()
-		{
-			NumUses = -1;
-			ParentVertex = IndexConstants::InvalidID;
-		}
+		RealType Numbers[ElementSize];
 	};
 
+	/** The numbers go from registers to their place: on their way through memory they would be waited for. */
+	FORCEINLINE int AppendValue(const FValue& Value) { return bMirrorsMesh ? Values.Add(Value) : AppendUse(Value); }
+
+private:
+	/** Who uses an element. */
+	struct FUse
+	{
+		int32 ParentVertex = IndexConstants::InvalidID;
+		/** Triangle corners; -1 for a free id. */
+		int32 Num = 0;
+	};
+
+	/** Whether these are elements with the ids of the triangle's vertices. */
+	FORCEINLINE bool IsMirrorOf(int TriangleID, const FIndex3i& TriElements) const
+	{
+		const int NumValues = Values.Num();
+		return ParentMesh->IsTriangle(TriangleID) && ParentMesh->GetTriangle(TriangleID) == TriElements &&
+			   TriElements.A < NumValues && TriElements.B < NumValues && TriElements.C < NumValues;
+	}
+	FUse* FindUse(int ElementID);
+	int AppendUse(FValue Value);
+	EMeshResult SetAnyTriangle(int TriangleID, const FIndex3i& TriElements, bool bAllowElementFreeing);
+	void StopMirroring();
+	void FreeElement(int ElementID);
 	void ReleaseElements(const FIndex3i& TriElements, bool bAllowElementFreeing);
 
 	/** Not owned; it owns this. */
 	const FDynamicMesh3* ParentMesh;
-	TRecordPool<FElement> Elements;
+	/** [MaxElementID()] */
+	TBlockArray<FValue> Values;
+	/** Whether all elements are live, the triangles below NumMirrored have the elements of their vertices' ids, and the
+	 * others none. */
+	bool bMirrorsMesh = true;
+	int NumMirrored = 0;
+
+	// In use when the overlay does not mirror the mesh
+
+	/** [MaxElementID()] */
+	TBlockArray<FUse> Uses;
+	TArray<int32> FreeIds;
 	/** At most [MaxTriangleID()]; a triangle past its end is unset, so that appending triangles costs nothing here. */
 	TBlockArray<FIndex3i> ElementTriangles;
 };
@@ -112,7 +170,21 @@ public:
 	using BaseType::GetElement;
 	using BaseType::SetElement;
 
-	int AppendElement(const VectorType& Value) { return BaseType::AppendElement(&Value.X); }
+	FORCEINLINE int AppendElement(const VectorType& Value)
+	{
+		if constexpr (ElementSize == 2)
+		{
+			return BaseType::AppendValue({{Value.X, Value.Y}});
+		}
+		else if constexpr (ElementSize == 3)
+		{
+			return BaseType::AppendValue({{Value.X, Value.Y, Value.Z}});
+		}
+		else
+		{
+			return BaseType::AppendElement(&Value.X);
+		}
+	}
 	void SetElement(int ElementID, const VectorType& Value) { BaseType::SetElement(ElementID, &Value.X); }
 	void GetElement(int ElementID, VectorType& Value) const { BaseType::GetElement(ElementID, &Value.X); }
 	VectorType GetElement(int ElementID) const

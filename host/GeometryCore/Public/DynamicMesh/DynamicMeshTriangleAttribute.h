@@ -37,6 +37,14 @@ public:
 	void SetValue(int TriangleID, const AttribValueType* Data)
 	{
 		checkf(TriangleID >= 0 && TriangleID < ParentMesh->MaxTriangleID(), TEXT("no triangle %d"), TriangleID);
+		if (TriangleID * AttribDimension == Values.Num())
+		{
+			for (int Index = 0; Index < AttribDimension; ++Index)
+			{
+				Values.Add(Data[Index]);
+			}
+			return;
+		}
 		GrowTo(TriangleID, AttribValueType(0));
 		for (int Index = 0; Index < AttribDimension; ++Index)
 		{

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
-/** Array that grows without moving its elements. */
+/** Array that grows without moving its elements, and whose copies share them. */
 #pragma once
 
 #include "HAL/UnrealMemory.h"
 #include "Misc/AssertionMacros.h"
+#include <atomic>
+#include <new>
 #include <type_traits>
 
 namespace UE::Geometry
@@ -12,6 +14,9 @@ namespace UE::Geometry
 /**
  * Elements in blocks, each twice the size of the one before. Growing a mesh by millions of elements this way copies
  * nothing and touches each page of memory once, which is most of the cost of building one.
+ *
+ * A copy shares the blocks of its original; the first of the two that is changed takes blocks of its own, unless the
+ * other is gone by then. Copying and reading may go on in several threads; whoever changes an array does so alone.
  */
 template <typename ElementType>
 class TBlockArray
@@ -20,15 +25,15 @@ class TBlockArray
 
 public:
 	TBlockArray() = default;
-	TBlockArray(const TBlockArray& Other) { Append(Other); }
-	TBlockArray(TBlockArray&& Other) { Swap(Other); }
+	TBlockArray(const TBlockArray& Other) { Share(Other); }
+	TBlockArray(TBlockArray&& Other) { TakeOver(Other); }
 	~TBlockArray() { Empty(); }
 	TBlockArray& operator=(const TBlockArray& Other)
 	{
 		if (this != &Other)
 		{
 			Empty();
-			Append(Other);
+			Share(Other);
 		}
 		return *this;
 	}
@@ -38,7 +43,7 @@ public:
 		if (this != &Other)
 		{
 			Empty();
-			Swap(Other);
+			TakeOver(Other);
 		}
 		return *this;
 	}
@@ -46,24 +51,25 @@ public:
 	int32 Num() const { return Count; }
 
 	/** Position of the new element. */
-	int32 Add(const ElementType& Element)
+	FORCEINLINE int32 Add(const ElementType& Element)
 	{
-		if (Count == Capacity)
+		if (UNLIKELY(Count >= Room))
 		{
-			AddBlock();
+			MakeRoom();
 		}
-		At(Count) = Element;
+		*Next++ = Element;
 		return Count++;
 	}
 
-	/** Releases all memory. */
+	/** Drops the elements, and releases the memory that nobody shares. */
 	void Empty()
 	{
 		for (int32 Block = 0; Block < NumBlocks; ++Block)
 		{
-			FMemory::Free(Blocks[Block]);
+			Release(GetBlock(Block));
 		}
-		Count = Capacity = NumBlocks = 0;
+		Count = Room = NumBlocks = 0;
+		Next = nullptr;
 	}
 
 	/** An index outside of the array is a fault. */
@@ -79,72 +85,162 @@ public:
 	}
 
 	/** Without the range check. */
-	ElementType& At(int32 Index)
+	FORCEINLINE ElementType& At(int32 Index)
 	{
-		// With the first block's size added, the highest set bit tells the block and the rest the place in it.
-		const uint32 Shifted = static_cast<uint32>(Index) + FirstBlockSize;
-		const int32 HighBit = 31 - __builtin_clz(Shifted);
-		return Blocks[HighBit - FirstBlockBits][Shifted ^ (1u << HighBit)];
+		Own();
+		return *Locate(Index);
 	}
-	const ElementType& At(int32 Index) const { return const_cast<TBlockArray*>(this)->At(Index); }
+	FORCEINLINE const ElementType& At(int32 Index) const { return *Locate(Index); }
+	/** At, for a stretch of code that has called Own() and copies nothing meanwhile. */
+	FORCEINLINE ElementType& AtOwned(int32 Index) { return *Locate(Index); }
+
+	/** Makes sure that changes are seen here alone. */
+	FORCEINLINE void Own()
+	{
+		if (UNLIKELY(Room < 0))
+		{
+			TakeOwnBlocks();
+		}
+	}
 
 private:
+	/** In front of the elements of each block. Its size keeps them aligned like the memory itself. */
+	struct FHeader
+	{
+		explicit FHeader(int32 InUsers)
+			: Users(InUsers)
+		{
+		}
+		std::atomic<int32> Users;
+	};
+	static constexpr SIZE_T HeaderBytes = 16;
+	static_assert(sizeof(FHeader) <= HeaderBytes && alignof(ElementType) <= HeaderBytes);
+
 	static constexpr int32 FirstBlockBits = 5;
 	static constexpr uint32 FirstBlockSize = 1u << FirstBlockBits;
 	static constexpr int32 MaxBlocks = 32 - FirstBlockBits;
+	/** Value of Room while the blocks may be those of another array too. */
+	static constexpr int32 Shared = -1;
+
+	static uint32 SizeOf(int32 Block) { return FirstBlockSize << Block; }
+	void* GetBlock(int32 Block) const
+	{
+		return reinterpret_cast<void*>(
+			Origins[Block + FirstBlockBits] + UPTRINT{SizeOf(Block)} * sizeof(ElementType) - HeaderBytes);
+	}
+	void SetBlock(int32 Block, void* Memory)
+	{
+		Origins[Block + FirstBlockBits] =
+			reinterpret_cast<UPTRINT>(Memory) + HeaderBytes - UPTRINT{SizeOf(Block)} * sizeof(ElementType);
+	}
+	static uint8* ElementsOf(void* Block) { return static_cast<uint8*>(Block) + HeaderBytes; }
+	int32 Capacity() const { return static_cast<int32>((FirstBlockSize << NumBlocks) - FirstBlockSize); }
+
+	FORCEINLINE ElementType* Locate(int32 Index) const
+	{
+		// With the first block's size added, the highest set bit tells the block and the rest the place in it. That bit
+		// need not be taken away, for Origins are so much lower.
+		const uint32 Shifted = static_cast<uint32>(Index) + FirstBlockSize;
+		const UPTRINT Origin = Origins[31 ^ __builtin_clz(Shifted)];
+		return reinterpret_cast<ElementType*>(Origin + UPTRINT{Shifted} * sizeof(ElementType));
+	}
 
 	void CheckRange(int32 Index) const
 	{
-		if (static_cast<uint32>(Index) >= static_cast<uint32>(Count))
+		if (UNLIKELY(static_cast<uint32>(Index) >= static_cast<uint32>(Count)))
 		{
 			FDebug::IndexOutOfBounds(Index, Count);
 		}
 	}
 
-	FORCENOINLINE void AddBlock()
+	static void* NewBlock(int32 Block)
 	{
-		checkf(NumBlocks < MaxBlocks - 1, TEXT("an array of more than 2^31 elements"));
-		const uint32 Size = FirstBlockSize << NumBlocks;
-		Blocks[NumBlocks++] = static_cast<ElementType*>(FMemory::Malloc(sizeof(ElementType) * Size));
-		Capacity += static_cast<int32>(Size);
+		void* const Memory = FMemory::Malloc(HeaderBytes + sizeof(ElementType) * SizeOf(Block));
+		::new (Memory) FHeader(1);
+		return Memory;
+	}
+	static FHeader& HeaderOf(void* Block) { return *static_cast<FHeader*>(Block); }
+	static void Release(void* Block)
+	{
+		if (HeaderOf(Block).Users.fetch_sub(1, std::memory_order_acq_rel) == 1)
+		{
+			FMemory::Free(Block);
+		}
 	}
 
-	void Append(const TBlockArray& Other)
+	/** Owns the blocks and has room for one more element. */
+	FORCENOINLINE void MakeRoom()
 	{
-		while (Capacity < Other.Count)
+		Own();
+		if (Count == Room)
 		{
-			const int32 Block = NumBlocks;
-			const int32 First = Capacity;
-			AddBlock();
-			const int32 Last = Capacity < Other.Count ? Capacity : Other.Count;
-			FMemory::Memcpy(
-				Blocks[Block], Other.Blocks[Block], sizeof(ElementType) * static_cast<SIZE_T>(Last - First));
+			checkf(NumBlocks < MaxBlocks - 1, TEXT("an array of more than 2^31 elements"));
+			SetBlock(NumBlocks, NewBlock(NumBlocks));
+			++NumBlocks;
+			Room = Capacity();
+		}
+		Next = Locate(Count);
+	}
+
+	FORCENOINLINE void TakeOwnBlocks()
+	{
+		for (int32 Block = 0; Block < NumBlocks; ++Block)
+		{
+			void* const Theirs = GetBlock(Block);
+			if (HeaderOf(Theirs).Users.load(std::memory_order_acquire) > 1)
+			{
+				void* const Mine = NewBlock(Block);
+				const uint32 First = SizeOf(Block) - FirstBlockSize;
+				const uint32 Used = static_cast<uint32>(Count) <= First ? 0 : static_cast<uint32>(Count) - First;
+				FMemory::Memcpy(ElementsOf(Mine), ElementsOf(Theirs),
+					sizeof(ElementType) * (Used < SizeOf(Block) ? Used : SizeOf(Block)));
+				Release(Theirs);
+				SetBlock(Block, Mine);
+			}
+		}
+		Room = Capacity();
+		Next = Count < Room ? Locate(Count) : nullptr;
+	}
+
+	void Share(const TBlockArray& Other)
+	{
+		for (int32 Block = 0; Block < Other.NumBlocks; ++Block)
+		{
+			SetBlock(Block, Other.GetBlock(Block));
+			HeaderOf(GetBlock(Block)).Users.fetch_add(1, std::memory_order_relaxed);
 		}
 		Count = Other.Count;
-	}
-
-	void Swap(TBlockArray& Other)
-	{
-		for (int32 Block = 0; Block < MaxBlocks; ++Block)
+		NumBlocks = Other.NumBlocks;
+		if (NumBlocks > 0)
 		{
-			ElementType* const Mine = Blocks[Block];
-			Blocks[Block] = Other.Blocks[Block];
-			Other.Blocks[Block] = Mine;
+			Room = Shared;
+			// Others may be copying it at the same time.
+			std::atomic_ref<int32>(Other.Room).store(Shared, std::memory_order_relaxed);
 		}
-		SwapNumbers(Count, Other.Count);
-		SwapNumbers(Capacity, Other.Capacity);
-		SwapNumbers(NumBlocks, Other.NumBlocks);
-	}
-	static void SwapNumbers(int32& A, int32& B)
-	{
-		const int32 OldA = A;
-		A = B;
-		B = OldA;
 	}
 
-	ElementType* Blocks[MaxBlocks] = {};
+	void TakeOver(TBlockArray& Other)
+	{
+		for (int32 Block = 0; Block < Other.NumBlocks; ++Block)
+		{
+			SetBlock(Block, Other.GetBlock(Block));
+		}
+		Next = Other.Next;
+		Count = Other.Count;
+		Room = Other.Room;
+		NumBlocks = Other.NumBlocks;
+		Other.Count = Other.Room = Other.NumBlocks = 0;
+		Other.Next = nullptr;
+	}
+
+	/** By the highest bit of the index plus the first block's size: where the element of index minus that size would
+	 * be. */
+	UPTRINT Origins[32] = {};
+	/** Place of the next element while Count < Room. */
+	ElementType* Next = nullptr;
 	int32 Count = 0;
-	int32 Capacity = 0;
+	/** Elements that the blocks hold, or Shared. */
+	mutable int32 Room = 0;
 	int32 NumBlocks = 0;
 };
 

@@ -4,6 +4,7 @@
 
 #include "Containers/Array.h"
 #include "Util/BlockArray.h"
+#include "Util/LiveIds.h"
 
 namespace UE::Geometry
 {
@@ -18,52 +19,6 @@ template <typename RecordType>
 class TRecordPool
 {
 public:
-	/** The live ids in ascending order, for a range-based loop. Adding a record ends its validity. */
-	class FIds
-	{
-	public:
-		class FIterator
-		{
-		public:
-			FIterator(const TRecordPool* InPool, int InIndex)
-				: Pool(InPool)
-				, Index(InIndex)
-			{
-				SkipFree();
-			}
-			int operator*() const { return Index; }
-			FIterator& operator++()
-			{
-				++Index;
-				SkipFree();
-				return *this;
-			}
-			bool operator==(const FIterator& Other) const { return Index == Other.Index; }
-
-		private:
-			void SkipFree()
-			{
-				while (Index < Pool->MaxID() && !Pool->IsLive(Index))
-				{
-					++Index;
-				}
-			}
-
-			const TRecordPool* Pool;
-			int Index;
-		};
-
-		explicit FIds(const TRecordPool* InPool)
-			: Pool(InPool)
-		{
-		}
-		FIterator begin() const { return FIterator(Pool, 0); }
-		FIterator end() const { return FIterator(Pool, Pool->MaxID()); }
-
-	private:
-		const TRecordPool* Pool;
-	};
-
 	/** Number of live records. */
 	int Num() const { return Records.Num() - FreeIds.Num(); }
 	/** One past the highest id ever given out. */
@@ -74,18 +29,20 @@ public:
 	{
 		return static_cast<uint32>(Id) < static_cast<uint32>(Records.Num()) && Records.At(Id).IsLive();
 	}
-	FIds Ids() const { return FIds(this); }
+	/** The live ids in ascending order, for a range-based loop. */
+	auto Ids() const { return TLiveIds<TRecordPool, &TRecordPool::IsLive>(this, MaxID()); }
 
 	/** Id of a new record. */
-	int Add(const RecordType& Record)
+	FORCEINLINE int Add(const RecordType& Record)
 	{
-		if (FreeIds.Num() == 0)
+		// The record's address goes nowhere, so that it comes to its place from registers.
+		if (UNLIKELY(FreeIds.Num() > 0))
 		{
-			return Records.Add(Record);
+			const int Id = TakeFreeId();
+			Records[Id] = Record;
+			return Id;
 		}
-		const int Id = FreeIds.Pop();
-		Records[Id] = Record;
-		return Id;
+		return Records.Add(Record);
 	}
 	/** Gives the id of a live record back. */
 	void Free(int Id)
@@ -97,21 +54,17 @@ public:
 	/** The record of an id below MaxID(); any other id is a fault. */
 	RecordType& operator[](int Id) { return Records[Id]; }
 	const RecordType& operator[](int Id) const { return Records[Id]; }
-	/** The live record of an id; null when there is none. */
-	RecordType* Find(int Id)
-	{
-		if (static_cast<uint32>(Id) >= static_cast<uint32>(Records.Num()))
-		{
-			return nullptr;
-		}
-		RecordType& Record = Records.At(Id);
-		return Record.IsLive() ? &Record : nullptr;
-	}
 	/** Without the range check. */
 	RecordType& At(int Id) { return Records.At(Id); }
 	const RecordType& At(int Id) const { return Records.At(Id); }
+	/** At, for a stretch of code that has called Own() and copies nothing meanwhile. */
+	FORCEINLINE RecordType& AtOwned(int Id) { return Records.AtOwned(Id); }
+	/** Makes sure that changes are seen here alone: copies of a pool share its records until then. */
+	FORCEINLINE void Own() { Records.Own(); }
 
 private:
+	FORCENOINLINE int TakeFreeId() { return FreeIds.Pop(); }
+
 	TBlockArray<RecordType> Records;
 	TArray<int32> FreeIds;
 };
