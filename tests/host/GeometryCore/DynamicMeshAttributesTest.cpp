@@ -307,3 +307,110 @@ TEST(DynamicMeshAttributes, LayersCanBeAddedAndDropped)
 	Set->SetNumNormalLayers(0);
 	EXPECT_EQ(Set->PrimaryNormals(), nullptr);
 }
+
+namespace
+{
+
+/** Four triangles in a strip over the vertices 0 to 5, each with the elements of its vertices' ids. */
+FDynamicMesh3 StripWithoutSeams()
+{
+	FDynamicMesh3 Mesh = MeshWith(6, {{0, 1, 2}, {1, 3, 2}, {2, 3, 4}, {3, 5, 4}});
+	Mesh.EnableAttributes();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+	AppendElements(UVs, 6);
+	for (const int TriangleID : Mesh.TriangleIndicesItr())
+	{
+		EXPECT_EQ(UVs.SetTriangle(TriangleID, Mesh.GetTriangle(TriangleID)), EMeshResult::Ok);
+	}
+	return Mesh;
+}
+
+} // namespace
+
+TEST(DynamicMeshOverlay, WithoutSeamsElementsBelongToTheVerticesOfTheirIds)
+{
+	FDynamicMesh3 Mesh = StripWithoutSeams();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+	UVs.AppendElement(FVector2f(6, 0));
+
+	EXPECT_EQ(UVs.GetTriangle(3), FIndex3i(3, 5, 4));
+	EXPECT_EQ(UVs.GetTriangle(4), FIndex3i(-1, -1, -1));
+	EXPECT_EQ(UVs.GetParentVertex(5), 5);
+	EXPECT_EQ(UVs.GetParentVertex(6), FDynamicMesh3::InvalidID);
+	EXPECT_EQ(UVs.ElementCount(), 7);
+	EXPECT_EQ(IdsOf(UVs.ElementIndicesItr()), (std::vector<int>{0, 1, 2, 3, 4, 5, 6}));
+}
+
+TEST(DynamicMeshOverlay, AVertexWhoseTrianglesHaveNoElementsYetOwnsNone)
+{
+	FDynamicMesh3 Mesh = MeshWith(4, {{0, 1, 2}, {1, 3, 2}});
+	Mesh.EnableAttributes();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+	AppendElements(UVs, 4);
+	UVs.SetTriangle(0, {0, 1, 2});
+
+	EXPECT_EQ(UVs.GetParentVertex(1), 1);
+	EXPECT_EQ(UVs.GetParentVertex(3), FDynamicMesh3::InvalidID);
+	EXPECT_FALSE(UVs.IsSetTriangle(1));
+}
+
+TEST(DynamicMeshOverlay, ASeamLeavesTheTrianglesBeforeItAsTheyAre)
+{
+	FDynamicMesh3 Mesh = StripWithoutSeams();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+	ASSERT_EQ(UVs.AppendElement(FVector2f(6, 0)), 6);
+
+	EXPECT_EQ(UVs.SetTriangle(3, {6, 5, 4}), EMeshResult::Ok);
+
+	EXPECT_EQ(UVs.GetTriangle(0), FIndex3i(0, 1, 2));
+	EXPECT_EQ(UVs.GetTriangle(2), FIndex3i(2, 3, 4));
+	EXPECT_EQ(UVs.GetTriangle(3), FIndex3i(6, 5, 4));
+	EXPECT_EQ(UVs.GetParentVertex(6), 3);
+	EXPECT_EQ(UVs.GetParentVertex(3), 3);
+	EXPECT_EQ(UVs.ElementCount(), 7);
+}
+
+TEST(DynamicMeshOverlay, ElementsOfARemovedTriangleThatNothingElseUsesAreFreed)
+{
+	FDynamicMesh3 Mesh = StripWithoutSeams();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+
+	Mesh.RemoveTriangle(0);
+
+	EXPECT_FALSE(UVs.IsElement(0));
+	EXPECT_TRUE(UVs.IsElement(1));
+	EXPECT_EQ(UVs.ElementCount(), 5);
+	EXPECT_EQ(UVs.GetTriangle(1), FIndex3i(1, 3, 2));
+	EXPECT_FALSE(UVs.IsSetTriangle(0));
+	EXPECT_EQ(UVs.AppendElement(FVector2f(9, 9)), 0);
+	EXPECT_EQ(UVs.GetElement(0), FVector2f(9, 9));
+}
+
+TEST(DynamicMeshOverlay, ARefusedTriangleLeavesTheOthersAsTheyAre)
+{
+	FDynamicMesh3 Mesh = StripWithoutSeams();
+	FDynamicMeshUVOverlay& UVs = *Mesh.Attributes()->PrimaryUV();
+
+	EXPECT_EQ(UVs.SetTriangle(1, {1, 3, 9}), EMeshResult::Failed_NotAVertex);
+	EXPECT_EQ(UVs.SetTriangle(9, {1, 3, 2}), EMeshResult::Failed_NotATriangle);
+
+	EXPECT_EQ(UVs.GetTriangle(1), FIndex3i(1, 3, 2));
+	EXPECT_EQ(UVs.GetParentVertex(4), 4);
+}
+
+TEST(DynamicMeshOverlay, ChangingACopyLeavesTheOriginalWithoutSeams)
+{
+	const FDynamicMesh3 Mesh = StripWithoutSeams();
+	FDynamicMesh3 Copy = Mesh;
+	FDynamicMeshUVOverlay& UVs = *Copy.Attributes()->PrimaryUV();
+	UVs.AppendElement(FVector2f(6, 0));
+	UVs.SetTriangle(0, {6, 1, 2});
+	Copy.RemoveTriangle(3);
+
+	EXPECT_EQ(Mesh.Attributes()->PrimaryUV()->GetTriangle(0), FIndex3i(0, 1, 2));
+	EXPECT_EQ(Mesh.Attributes()->PrimaryUV()->ElementCount(), 6);
+	EXPECT_EQ(Mesh.TriangleCount(), 4);
+	EXPECT_EQ(Mesh.FindEdge(5, 3), Mesh.FindEdge(3, 5));
+	EXPECT_NE(Mesh.FindEdge(3, 5), FDynamicMesh3::InvalidID);
+	EXPECT_EQ(Copy.FindEdge(3, 5), FDynamicMesh3::InvalidID);
+}
