@@ -35,7 +35,8 @@ int Usage()
 	{
 		std::fprintf(stderr, " %s", Subject.Name);
 	}
-	std::fprintf(stderr, "\nFILE receives what is printed, at its end. N is 9 if not said otherwise. Other options are Google Benchmark's.\n");
+	std::fprintf(stderr, "\nFILE receives what is printed, at its end. N is 9 if not said otherwise. Other options are "
+						 "Google Benchmark's.\n");
 	return 2;
 }
 

@@ -12,7 +12,8 @@ if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
 	set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
 endif()
 # Checks stay on in every build, as in an editor build of the engine; only the optimiser differs.
-set(CMAKE_CXX_FLAGS_RELEASE "-O2")
+# Nobody asks errno about arithmetic, and rounding to an integer is one instruction without it.
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -fno-math-errno")
 
 find_program(ZEF_CCACHE ccache)
 if(ZEF_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)

@@ -2,10 +2,14 @@
 #include "Support/EngineSession.h"
 
 #include "Containers/StringConv.h"
+#include "Editor/ZEFTandemEditor.h"
+#include "Editor/ZEFTandemEditorModule.h"
 #include "Host/EngineLoop.h"
 #include "Host/FilePackageStore.h"
+#include "Modules/ModuleManager.h"
 #include "UObject/GarbageCollection.h"
 #include "UObject/UObjectGlobals.h"
+#include "Zef/Address.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -55,12 +59,29 @@ struct FSession
 	}
 };
 
+FSession& Session()
+{
+	static FSession Running;
+	return Running;
+}
+
 } // namespace
 
 std::string StartEngine()
 {
-	static FSession Session;
-	return Session.Error;
+	return Session().Error;
+}
+
+TSharedPtr<FZEFTandemEditor> OpenEditor(const std::string& Endpoint)
+{
+	setenv(Zef::EndpointVariable, Endpoint.c_str(), 1);
+	FZEFTandemEditorModule& Module = FModuleManager::LoadModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
+	return StaticCastSharedPtr<FZEFTandemEditor>(Module.CreateEditor());
+}
+
+void TickEngine(double Seconds)
+{
+	Session().Engine.Tick(Seconds);
 }
 
 void CollectObjects()

@@ -77,6 +77,7 @@ Zef::FSurfaceMesh MakeCloth(int Columns, int Rows)
 Zef::FTexture MakeWeave(int Side, unsigned Seed)
 {
 	Zef::FTexture Texture;
+	Texture.Format = 0;
 	Texture.Width = Side;
 	Texture.Height = Side;
 	Texture.Pixels.resize(static_cast<std::size_t>(Side) * static_cast<std::size_t>(Side) * 4);

@@ -36,6 +36,10 @@ void FSkelMeshSection::CalcMaxBoneInfluences()
 			NumInfluences += Weight > 0;
 		}
 		MaxBoneInfluences = FMath::Max(MaxBoneInfluences, NumInfluences);
+		if (MaxBoneInfluences == MAX_TOTAL_INFLUENCES)
+		{
+			return;
+		}
 	}
 }
 
@@ -44,13 +48,16 @@ void FSkelMeshSection::CalcUse16BitBoneIndex()
 	bUse16BitBoneIndex = false;
 	for (const FSoftSkinVertex& Vertex : SoftVertices)
 	{
+		// Together, for all bones of all vertices are looked at in most meshes.
+		uint32 Bits = 0;
 		for (const FBoneIndexType Bone : Vertex.InfluenceBones)
 		{
-			if (Bone > 255)
-			{
-				bUse16BitBoneIndex = true;
-				return;
-			}
+			Bits |= Bone;
+		}
+		if (Bits > 255)
+		{
+			bUse16BitBoneIndex = true;
+			return;
 		}
 	}
 }

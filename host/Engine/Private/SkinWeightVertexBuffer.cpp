@@ -48,7 +48,7 @@ void FSkinWeightVertexBuffer::SetVertexSkinWeights(uint32 VertexIndex, const FSo
 	}
 	else
 	{
-		for (uint32 Slot = 0; Slot < MaxBoneInfluences; ++Slot)
+		for (uint32 Slot = 0, Num = MaxBoneInfluences; Slot < Num; ++Slot)
 		{
 			Bones[Slot] = uint8(Vertex.InfluenceBones[Slot]);
 		}

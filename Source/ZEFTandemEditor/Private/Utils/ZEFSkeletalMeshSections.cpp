@@ -12,39 +12,6 @@ namespace ZEFEditorUtils
 namespace
 {
 
-/** Soft vertices of the section in work by their source vertex, as chains through two flat arrays. */
-class FCornerMap
-{
-public:
-	/** Forgets everything and makes room for the vertices of a surface and the corners of a section. */
-	void Reset(int32 NumSourceVertices, int32 NumCorners)
-	{
-		Newest.SetNumUninitialized(NumSourceVertices, false);
-		for (int32& Entry : Newest)
-		{
-			Entry = INDEX_NONE;
-		}
-		Older.Reset(FMath::Min(NumSourceVertices, NumCorners));
-	}
-
-	/** Newest soft vertex of a source vertex, INDEX_NONE when there is none. */
-	int32 First(int32 SourceVertex) const { return Newest[SourceVertex]; }
-
-	/** The one added before `SoftVertex` for the same source vertex. */
-	int32 Next(int32 SoftVertex) const { return Older[SoftVertex]; }
-
-	/** Soft vertices are added in the order of their numbers. */
-	void Add(int32 SourceVertex, int32 SoftVertex)
-	{
-		Older.Add(Newest[SourceVertex]);
-		Newest[SourceVertex] = SoftVertex;
-	}
-
-private:
-	TArray<int32> Newest; // by source vertex
-	TArray<int32> Older;  // by soft vertex
-};
-
 TArray<FBoneIndexType> MakeIdentityBoneMap(int32 NumBones)
 {
 	TArray<FBoneIndexType> Map;
@@ -58,7 +25,7 @@ TArray<FBoneIndexType> MakeIdentityBoneMap(int32 NumBones)
 
 /** Writes the whole vertex, padding of unused channels included, so that equal sources give equal bytes. */
 void FillSoftVertex(
-	const FZEFSurface& Surface, int32 Vertex, const FQuantizedInfluences& Influences, FSoftSkinVertex& OutVertex)
+	const FZEFSurface& Surface, int32 Vertex, FInfluenceQuantizer& Influences, FSoftSkinVertex& OutVertex)
 {
 	const FVector3f& Normal = Surface.Normals[Vertex];
 	const FVector3f& Tangent = Surface.Tangents[Vertex];
@@ -85,25 +52,41 @@ public:
 		, BoneMap(MakeIdentityBoneMap(InNumBones))
 		, LODModel(InLODModel)
 	{
+		int32 MostVertices = 0;
+		for (const FZEFSurface& Surface : SurfaceMesh.Surfaces)
+		{
+			MostVertices = FMath::Max(MostVertices, Surface.Positions.Num());
+		}
+		SoftVertexEnds.SetNumZeroed(MostVertices);
 	}
 
 	void Build(const FZEFSurface& Surface, const FZEFSection& Source)
 	{
 		FSkelMeshSection& Section = LODModel.Sections.AddDefaulted_GetRef();
+		const int32 NumIndices = Source.Indices.Num();
 		Section.MaterialIndex = static_cast<uint16>(SlotKeys.Find(Source.MaterialIndex));
-		Section.NumTriangles = Source.Indices.Num() / 3;
+		Section.NumTriangles = NumIndices / 3;
 		Section.BaseVertexIndex = LODModel.NumVertices;
 		Section.BaseIndex = LODModel.IndexBuffer.Num();
+		Section.SoftVertices.Reserve(FMath::Min(Surface.Positions.Num(), NumIndices));
 
-		const int32 FirstSlot = LODModel.IndexBuffer.AddZeroed(Source.Indices.Num());
-		CornerMap.Reset(Surface.Positions.Num(), Source.Indices.Num());
-		Section.SoftVertices.Reserve(FMath::Min(Surface.Positions.Num(), Source.Indices.Num()));
 		const int32 NumCorners = 3 * static_cast<int32>(Section.NumTriangles);
+		uint32* const Indices = LODModel.IndexBuffer.GetData() + LODModel.IndexBuffer.AddUninitialized(NumIndices);
+		int32* const ImportVertices =
+			LODModel.MeshToImportVertexMap.GetData() + LODModel.MeshToImportVertexMap.AddUninitialized(NumCorners);
+		const int32* const SourceVertices = Source.Indices.GetData();
 		for (int32 Corner = 0; Corner < NumCorners; ++Corner)
 		{
-			const int32 SoftVertex = FindOrAddSoftVertex(Surface, Source.Indices[Corner], Section.SoftVertices);
-			LODModel.MeshToImportVertexMap.Add(SoftVertex);
-			LODModel.IndexBuffer[FirstSlot + Corner] = SoftVertex + Section.BaseVertexIndex;
+			const int32 SourceVertex = SourceVertices[Corner];
+			const uint32 Known = SoftVertexEnds[SourceVertex];
+			const uint32 SoftVertex =
+				Known > Section.BaseVertexIndex ? Known - 1 : AddSoftVertex(Surface, SourceVertex, Section);
+			ImportVertices[Corner] = static_cast<int32>(SoftVertex - Section.BaseVertexIndex);
+			Indices[Corner] = SoftVertex;
+		}
+		for (int32 Trailing = NumCorners; Trailing < NumIndices; ++Trailing)
+		{
+			Indices[Trailing] = 0;
 		}
 
 		Section.NumVertices = Section.SoftVertices.Num();
@@ -114,27 +97,34 @@ public:
 	}
 
 private:
-	int32 FindOrAddSoftVertex(const FZEFSurface& Surface, int32 SourceVertex, TArray<FSoftSkinVertex>& SoftVertices)
+	/**
+	 * Two corners of one source vertex are equal in everything, so whether they may share a soft vertex is decided by
+	 * comparing it with itself: a vertex that has no equal, for one of its numbers is none, is made anew every time.
+	 *
+	 * @return number of the new vertex within the level of detail
+	 */
+	uint32 AddSoftVertex(const FZEFSurface& Surface, int32 SourceVertex, FSkelMeshSection& Section)
 	{
-		const int32 Candidate = SoftVertices.AddUninitialized();
-		FillSoftVertex(Surface, SourceVertex, Influences, SoftVertices[Candidate]);
-		for (int32 Known = CornerMap.First(SourceVertex); Known != INDEX_NONE; Known = CornerMap.Next(Known))
+		const int32 Added = Section.SoftVertices.AddUninitialized();
+		FSoftSkinVertex& Vertex = Section.SoftVertices[Added];
+		FillSoftVertex(Surface, SourceVertex, Influences, Vertex);
+		const uint32 SoftVertex = Section.BaseVertexIndex + static_cast<uint32>(Added);
+		if (ZEFMathUtils::AreVerticesEqual(Vertex, Vertex))
 		{
-			if (ZEFMathUtils::AreVerticesEqual(SoftVertices[Known], SoftVertices[Candidate]))
-			{
-				SoftVertices.RemoveAt(Candidate, 1, false);
-				return Known;
-			}
+			SoftVertexEnds[SourceVertex] = SoftVertex + 1;
 		}
-		CornerMap.Add(SourceVertex, Candidate);
-		return Candidate;
+		return SoftVertex;
 	}
 
-	const FQuantizedInfluences Influences;
+	FInfluenceQuantizer Influences;
 	const TArray<int32> SlotKeys;
 	const TArray<FBoneIndexType> BoneMap;
 	FSkeletalMeshLODModel& LODModel;
-	FCornerMap CornerMap;
+	/**
+	 * By source vertex: one past the number of its soft vertex within the level of detail. A number that is not above
+	 * the first vertex of the section in work is of an earlier section, perhaps of another surface.
+	 */
+	TArray<uint32> SoftVertexEnds;
 };
 
 } // namespace
