@@ -29,18 +29,25 @@ namespace
 constexpr double RequiredOfImport = 1.0;
 constexpr double RequiredOfJoinedImport = 5.0;
 constexpr double MemoryLimit = 3.0;
-constexpr int Triangles = 2000000;
+constexpr int ClothSide = 500;
 constexpr int TextureSide = 2048;
 constexpr int NumTextures = 4;
+constexpr int Triangles = NumTextures * 2 * ClothSide * ClothSide;
+constexpr int Vertices = NumTextures * (ClothSide + 1) * (ClothSide + 1);
 constexpr auto Type = Zef::EObjectType::Garment;
 
-/** The cloth with a material for each texture, of which its one section uses the first. */
+/** A cloth for each texture, together of all the triangles. */
 std::shared_ptr<const Zef::FSurfaceMesh> MakeContent()
 {
-	const auto Mesh = std::make_shared<Zef::FSurfaceMesh>(MakeCloth(1000, 1000));
-	Mesh->Materials.clear();
+	const auto Mesh = std::make_shared<Zef::FSurfaceMesh>();
+	std::int32_t Vertices = 0;
 	for (int Index = 1; Index <= NumTextures; ++Index)
 	{
+		Zef::FSurface Surface = std::move(MakeCloth(ClothSide, ClothSide).Surfaces[0]);
+		Surface.VertexOffset = Vertices;
+		Surface.Sections[0].MaterialIndex = Index;
+		Vertices += static_cast<std::int32_t>(Surface.Positions.size());
+		Mesh->Surfaces.push_back(std::move(Surface));
 		Mesh->Textures.emplace_back(Index, MakeWeave(TextureSide, static_cast<unsigned>(Index)));
 		Zef::FMaterial Material;
 		Material.Id = Index;
@@ -183,7 +190,7 @@ void MeasureRoad(FSuite& Suite)
 	Case->Item = Zef::EncodeSurfaceMesh(Type, Case->Content);
 	Case->Glb = MakeGlb(*Case->Content);
 	Case->Editor = OpenEditor(FreshEndpoint("nobody.sock"));
-	const FImported Expected{Case->Content->Surfaces[0].Positions.size(), Triangles, NumTextures, {}};
+	const FImported Expected{Vertices, Triangles, NumTextures, {}};
 	const auto Compare = [&](const char* Name, const FImported& Scene)
 	{
 		if (ToText(Scene) != ToText(Expected))

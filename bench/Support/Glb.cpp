@@ -94,19 +94,27 @@ std::vector<std::uint8_t> MakeGlb(const Zef::FSurfaceMesh& Mesh)
 {
 	constexpr int Float = 5126;
 	constexpr int UnsignedInt = 5125;
-	const Zef::FSurface& Surface = Mesh.Surfaces[0];
 	FBuffer Buffer;
-	Buffer.AddAccessor(Surface.Positions, Float, "VEC3", BoundsOf(Surface.Positions));
-	Buffer.AddAccessor(Surface.Normals, Float, "VEC3");
-	std::vector<Zef::FVec4> Tangents;
-	Tangents.reserve(Surface.Tangents.size());
-	for (const Zef::FVec3& Tangent : Surface.Tangents)
+	std::string Primitives;
+	for (std::size_t Index = 0; Index < Mesh.Surfaces.size(); ++Index)
 	{
-		Tangents.push_back({Tangent.X, Tangent.Y, Tangent.Z, 1.0f});
+		const Zef::FSurface& Surface = Mesh.Surfaces[Index];
+		const auto Accessor = [First = Index * 5](std::size_t Number) { return std::to_string(First + Number); };
+		Primitives += (Index == 0 ? "" : ",") + std::string("{\"attributes\":{\"POSITION\":") + Accessor(0) +
+					  ",\"NORMAL\":" + Accessor(1) + ",\"TANGENT\":" + Accessor(2) + ",\"TEXCOORD_0\":" + Accessor(3) +
+					  "},\"indices\":" + Accessor(4) + ",\"material\":" + std::to_string(Index) + "}";
+		Buffer.AddAccessor(Surface.Positions, Float, "VEC3", BoundsOf(Surface.Positions));
+		Buffer.AddAccessor(Surface.Normals, Float, "VEC3");
+		std::vector<Zef::FVec4> Tangents;
+		Tangents.reserve(Surface.Tangents.size());
+		for (const Zef::FVec3& Tangent : Surface.Tangents)
+		{
+			Tangents.push_back({Tangent.X, Tangent.Y, Tangent.Z, 1.0f});
+		}
+		Buffer.AddAccessor(Tangents, Float, "VEC4");
+		Buffer.AddAccessor(Surface.UVs, Float, "VEC2");
+		Buffer.AddAccessor(Surface.Sections[0].Indices, UnsignedInt, "SCALAR");
 	}
-	Buffer.AddAccessor(Tangents, Float, "VEC4");
-	Buffer.AddAccessor(Surface.UVs, Float, "VEC2");
-	Buffer.AddAccessor(Surface.Sections[0].Indices, UnsignedInt, "SCALAR");
 
 	std::string Images;
 	std::string Textures;
@@ -123,11 +131,10 @@ std::vector<std::uint8_t> MakeGlb(const Zef::FSurfaceMesh& Mesh)
 	}
 	const std::string Json =
 		"{\"asset\":{\"version\":\"2.0\"},\"scene\":0,\"scenes\":[{\"nodes\":[0]}],\"nodes\":[{\"mesh\":0}],"
-		"\"meshes\":[{\"primitives\":[{\"attributes\":{\"POSITION\":0,\"NORMAL\":1,\"TANGENT\":2,\"TEXCOORD_0\":3},"
-		"\"indices\":4,\"material\":0}]}],\"buffers\":[{\"byteLength\":" +
-		std::to_string(Buffer.Bytes.size()) + "}],\"bufferViews\":[" + Buffer.Views + "],\"accessors\":[" +
-		Buffer.Accessors + "],\"images\":[" + Images + "],\"textures\":[" + Textures + "],\"materials\":[" + Materials +
-		"]}";
+		"\"meshes\":[{\"primitives\":[" +
+		Primitives + "]}],\"buffers\":[{\"byteLength\":" + std::to_string(Buffer.Bytes.size()) +
+		"}],\"bufferViews\":[" + Buffer.Views + "],\"accessors\":[" + Buffer.Accessors + "],\"images\":[" + Images +
+		"],\"textures\":[" + Textures + "],\"materials\":[" + Materials + "]}";
 
 	std::vector<std::uint8_t> File = {'g', 'l', 'T', 'F', 2, 0, 0, 0, 0, 0, 0, 0};
 	AppendChunk(File, "JSON", Json.data(), Json.size(), ' ');

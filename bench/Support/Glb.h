@@ -10,7 +10,8 @@
 namespace Bench
 {
 
-/** One surface with one section, all its attributes, and the textures as PNG in one material each. */
+/** A primitive for each surface, of its first section and with its own material, and the textures as PNG in a material
+ * each. */
 std::vector<std::uint8_t> MakeGlb(const Zef::FSurfaceMesh& Mesh);
 
 } // namespace Bench

@@ -335,9 +335,15 @@ void FClientEndpoint::FImpl::OnTransportDown(const FLinkReason& Reason)
 	PhaseDeadline = bWasUp ? FClock::time_point::max() : FClock::now() + Options.RetryTime;
 }
 
+/** Whether the peer waits for credit; one that is gone is listened to up to its last word. */
+bool FClientEndpoint::FImpl::MustCredit() const
+{
+	return Session && !bDisconnected && Session->OwesCredit();
+}
+
 void FClientEndpoint::FImpl::ReceiveAll()
 {
-	for (int Count = 0; Dealer && Count < MessagesInARow; ++Count)
+	for (int Count = 0; Dealer && Count < MessagesInARow && !MustCredit(); ++Count)
 	{
 		bool bTooManyParts = false;
 		std::vector<zmq::message_t> Parts = ReceiveParts(*Dealer, bTooManyParts);

@@ -92,6 +92,7 @@ private:
 	void OnNoHandshake();
 	void OnKeysRejected(const std::string& What);
 	void ReceiveAll();
+	bool MustCredit() const;
 	void Receive(std::vector<zmq::message_t>& Parts, bool bTooManyParts);
 	void ReceiveAnswer(const std::optional<FPrefix>& Prefix, const std::vector<zmq::message_t>& Parts);
 	void TurnedAway(const FLinkReason& Reason, const FLinkFault& Fault);

@@ -57,6 +57,9 @@ public:
 	/** Sends what the window allows. False when the peer is gone. */
 	bool Pump();
 
+	/** Whether so much has been taken since the last credit that the other end should hear of it before more is taken. */
+	bool OwesCredit() const { return Taken - Credited >= WindowBytes / CreditsPerWindow; }
+
 	/** Tells the other end what has been taken. @param bHold  too much waits for the program: credit later */
 	bool SendCredit(bool bHold);
 
@@ -67,6 +70,9 @@ public:
 	FClock::time_point StallDeadline(std::chrono::milliseconds StallTime) const;
 
 private:
+	/** An end that hears of it late stands still until then, and this one after it. */
+	static constexpr std::uint64_t CreditsPerWindow = 8;
+
 	FLinkFault HandleResult(EDecode Result, const FPrefix& Prefix);
 	FLinkFault TakeCredit(std::uint64_t TotalBytes);
 	FLinkFault CountFault(FClock::time_point Now);
