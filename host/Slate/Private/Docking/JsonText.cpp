@@ -222,21 +222,38 @@ private:
 		return true;
 	}
 
-	bool ReadNumber(double& Out)
+	bool TakeDigits()
 	{
 		const int32 Start = At;
-		while (
-			FChar::IsDigit(Peek()) || Peek() == '-' || Peek() == '+' || Peek() == '.' || Peek() == 'e' || Peek() == 'E')
+		while (FChar::IsDigit(Peek()))
 		{
 			++At;
 		}
-		const FString Digits = Text.Mid(Start, At - Start);
-		if (Digits.IsEmpty() || !Digits.IsNumeric())
+		return At > Start;
+	}
+
+	bool ReadNumber(double& Out)
+	{
+		const int32 Start = At;
+		At += Peek() == '-' ? 1 : 0;
+		bool bGood = TakeDigits();
+		if (bGood && Peek() == '.')
+		{
+			++At;
+			bGood = TakeDigits();
+		}
+		if (bGood && (Peek() == 'e' || Peek() == 'E'))
+		{
+			++At;
+			At += Peek() == '-' || Peek() == '+' ? 1 : 0;
+			bGood = TakeDigits();
+		}
+		if (!bGood)
 		{
 			At = Start;
 			return Fail(TEXT("a value is expected"));
 		}
-		Out = FCString::Atod(*Digits);
+		Out = FCString::Atod(*Text.Mid(Start, At - Start));
 		return true;
 	}
 

@@ -37,6 +37,18 @@ enum Type : int
 };
 }
 
+/** Why a text was handed over. */
+namespace ETextCommit
+{
+enum Type : int
+{
+	Default,
+	OnEnter,
+	OnUserMovedFocus,
+	OnCleared,
+};
+}
+
 /** What a menu entry or a tool button looks like and does. */
 enum class EUserInterfaceActionType : uint8
 {

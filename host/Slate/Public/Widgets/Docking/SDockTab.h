@@ -103,7 +103,7 @@ private:
 
 	ETabRole TabRole = ETabRole::PanelTab;
 	TAttribute<FText> TabLabel;
-	TAttribute<const FSlateBrush*> TabIcon = nullptr;
+	TAttribute<const FSlateBrush*> TabIcon;
 	FOnTabClosedCallback OnTabClosed;
 	FOnTabActivatedCallback OnTabActivated;
 	FCanCloseTab OnCanCloseTab;
