@@ -67,17 +67,3 @@ TSharedPtr<FExtender> FToolMenuContext::GetAllExtenders() const
 {
 	return Extenders.Num() == 0 ? nullptr : TSharedPtr<FExtender>(FExtender::Combine(Extenders));
 }
-
-const FUIAction* FToolMenuContext::GetActionForCommand(
-	TSharedPtr<const FUICommandInfo> Command, TSharedPtr<const FUICommandList>& OutCommandList) const
-{
-	for (const TSharedPtr<FUICommandList>& List : CommandLists)
-	{
-		if (const FUIAction* Action = List->GetActionForCommand(Command))
-		{
-			OutCommandList = List;
-			return Action;
-		}
-	}
-	return nullptr;
-}

@@ -35,9 +35,6 @@ struct TOOLMENUS_API FToolMenuContext
 	TSharedPtr<FUICommandList> GetCommandList() const { return CommandList; }
 	/** All extenders as one; empty when there are none. */
 	TSharedPtr<FExtender> GetAllExtenders() const;
-	/** The first of the lists that maps the command. */
-	const FUIAction* GetActionForCommand(
-		TSharedPtr<const FUICommandInfo> Command, TSharedPtr<const FUICommandList>& OutCommandList) const;
 
 private:
 	friend class UToolMenu;

@@ -4,6 +4,8 @@
 #include "Framework/Commands/Commands.h"
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Host/MultiBoxes.h"
+#include "Input/Events.h"
+#include "Layout/Geometry.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -198,6 +200,31 @@ TEST_F(MultiBox, SearchingFindsEntriesOfSubMenusWithTheWayToThem)
 	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines());
 	Box.FilterMultiBoxEntries(FText());
 	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines({TEXT("# Tools"), TEXT("Saw"), TEXT("[ ] Lamp"), TEXT("More >")}));
+}
+
+TEST_F(MultiBox, TypingInAMenuSearches)
+{
+	FMenuBuilder Builder(true, Commands);
+	Builder.AddMenuEntry(Saw());
+	Builder.AddMenuEntry(Lamp());
+	const TSharedRef<SWidget> Menu = Builder.MakeWidget();
+	EXPECT_TRUE(Menu->SupportsKeyboardFocus());
+	const auto Type = [&](TCHAR Character) {
+		return Menu->OnKeyChar(FGeometry(), FCharacterEvent(Character, FModifierKeysState(), 0, false))
+			.IsEventHandled();
+	};
+	EXPECT_TRUE(Type('l'));
+	EXPECT_TRUE(Type('a'));
+	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines({TEXT("[ ] Lamp")}));
+	EXPECT_TRUE(Type('x'));
+	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines());
+	EXPECT_TRUE(Type(8));
+	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines({TEXT("[ ] Lamp")}));
+	EXPECT_TRUE(Type(27));
+	EXPECT_EQ(Host::DescribeMultiBox(Menu), FLines({TEXT("Saw"), TEXT("[ ] Lamp")}));
+	// With nothing to take away the key is for somebody else, who may close the menu.
+	EXPECT_FALSE(Type(27));
+	EXPECT_FALSE(Type(8));
 }
 
 TEST_F(MultiBox, AMenuThatIsNotSearchableStaysAsItIs)

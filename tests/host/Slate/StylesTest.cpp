@@ -4,8 +4,8 @@
 #include "Brushes/SlateImageBrush.h"
 #include "Brushes/SlateRoundedBoxBrush.h"
 #include "CorePrinting.h"
-#include "Host/StyleResources.h"
 #include "Misc/Paths.h"
+#include "Rendering/SlateRenderer.h"
 #include "Styling/AppStyle.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/SlateStyle.h"
@@ -108,7 +108,7 @@ TEST(Styles, AMissingImageFileIsAPlaceholderOfItsSizeAndOneWarning)
 
 	std::ofstream(Folder / "Cat.png") << "picture";
 	EXPECT_EQ(Style.GetBrush(TEXT("Pictures.Cat")), Placeholder);
-	Host::ForgetImageFiles();
+	FSlateRenderer().ReloadTextureResources();
 	EXPECT_TEXT_EQ(
 		FPaths::GetCleanFilename(Style.GetBrush(TEXT("Pictures.Cat"))->GetResourceName().ToString()), TEXT("Cat.png"));
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "EngineFixture.h"
 #include "Framework/Commands/GenericCommands.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Host/Menus.h"
 #include "Host/MultiBoxes.h"
 #include "Host/ToolMenusRuntime.h"
 #include "ToolMenus.h"
 #include "UObject/Package.h"
+#include "Widgets/SWindow.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace
@@ -253,6 +256,42 @@ TEST_F(ToolMenus, AnOwnersEntriesGoTogether)
 	EXPECT_EQ(Lines(TEXT("Test.Owned")), FLines({TEXT("Ours")}));
 	UToolMenus::UnregisterOwner(FToolMenuOwner());
 	EXPECT_EQ(Lines(TEXT("Test.Owned")), FLines({TEXT("Ours")}));
+}
+
+TEST_F(ToolMenus, EntriesSectionsAndMenusCanBeTakenAway)
+{
+	for (const TCHAR* Name : {TEXT("One"), TEXT("Two")})
+	{
+		AddEntry(TEXT("Test.Gone"), TEXT("S"), Name);
+	}
+	Menus().AddSection(TEXT("Test.Gone"), TEXT("T"), Text(TEXT("Rest")), FToolMenuInsert());
+	AddEntry(TEXT("Test.Gone"), TEXT("T"), TEXT("Three"));
+	EXPECT_EQ(Lines(TEXT("Test.Gone")), FLines({TEXT("One"), TEXT("Two"), TEXT("---"), TEXT("# Rest"), TEXT("Three")}));
+	Menus().RemoveEntry(TEXT("Test.Gone"), TEXT("S"), TEXT("One"));
+	Menus().RemoveSection(TEXT("Test.Gone"), TEXT("T"));
+	EXPECT_EQ(Lines(TEXT("Test.Gone")), FLines({TEXT("Two")}));
+	Menus().RemoveMenu(TEXT("Test.Gone"));
+	EXPECT_EQ(Menus().FindMenu(TEXT("Test.Gone")), nullptr);
+	// Taking away what is not there does nothing.
+	Menus().RemoveEntry(TEXT("Test.Gone"), TEXT("S"), TEXT("One"));
+	Menus().RemoveSection(TEXT("Test.Gone"), TEXT("T"));
+	Menus().RemoveMenu(TEXT("Test.Gone"));
+	EXPECT_EQ(Menus().FindMenu(TEXT("Test.Gone")), nullptr);
+}
+
+TEST_F(ToolMenus, AnOpenMenuClosesBeforeItsEntryRuns)
+{
+	bool bMenuOpen = true;
+	AddEntry(TEXT("Test.Popup"), TEXT("S"), TEXT("Go"),
+		FExecuteAction::CreateLambda([&] { bMenuOpen = FSlateApplication::Get().AnyMenusVisible(); }));
+	const TSharedRef<STextBlock> Parent = SNew(STextBlock);
+	const TSharedRef<SWindow> Window = SNew(SWindow)[Parent];
+	FSlateApplication::Get().AddWindow(Window);
+	const TSharedRef<SWidget> Menu = Menus().GenerateWidget(TEXT("Test.Popup"), FToolMenuContext());
+	Host::OpenMenu(Parent, Menu);
+	ASSERT_TRUE(FSlateApplication::Get().AnyMenusVisible());
+	EXPECT_TRUE(Host::FindMultiBoxItem(Menu, Text(TEXT("Go")))->Press());
+	EXPECT_FALSE(bMenuOpen);
 }
 
 TEST_F(ToolMenus, StartUpCallbacksRunAtOnceWhenTheMenusAreUp)

@@ -139,9 +139,9 @@ void FMenuBuilder::AddWidget(TSharedRef<SWidget> InWidget, const FText& Label, b
 
 void FMenuBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
 {
-	if (ExtendersEnabled() && !InExtensionHook.IsNone() && ExtenderStack.Last().IsValid())
+	if (!InExtensionHook.IsNone() && Extender.IsValid())
 	{
-		ExtenderStack.Last()->Apply(InExtensionHook, HookPosition, *this);
+		Extender->Apply(InExtensionHook, HookPosition, *this);
 	}
 }
 
@@ -180,8 +180,8 @@ void FMenuBarBuilder::AddPullDownMenu(const TAttribute<FText>& InMenuLabel, cons
 
 void FMenuBarBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
 {
-	if (ExtendersEnabled() && !InExtensionHook.IsNone() && ExtenderStack.Last().IsValid())
+	if (!InExtensionHook.IsNone() && Extender.IsValid())
 	{
-		ExtenderStack.Last()->Apply(InExtensionHook, HookPosition, *this);
+		Extender->Apply(InExtensionHook, HookPosition, *this);
 	}
 }

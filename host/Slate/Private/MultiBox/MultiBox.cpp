@@ -4,6 +4,8 @@
 
 #include "Host/MultiBoxes.h"
 #include "Host/WidgetTree.h"
+#include "Input/Events.h"
+#include "Layout/Geometry.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/SBoxPanel.h"
 
@@ -166,6 +168,39 @@ void SMultiBoxWidget::FilterMultiBoxEntries(const FText& InSearchText)
 	SearchText = InSearchText;
 	BuildSearchResult();
 	Invalidate(EInvalidateWidgetReason::Layout);
+}
+
+bool SMultiBoxWidget::SupportsKeyboardFocus() const
+{
+	return bSearchable || (MultiBox.IsValid() && MultiBox->bIsFocusable);
+}
+
+FReply SMultiBoxWidget::OnKeyChar(const FGeometry&, const FCharacterEvent& InCharacterEvent)
+{
+	constexpr TCHAR Backspace = 8;
+	constexpr TCHAR Escape = 27;
+	constexpr TCHAR FirstPrintable = 32;
+	constexpr TCHAR DeleteCharacter = 127;
+	const TCHAR Character = InCharacterEvent.GetCharacter();
+	FString Text = SearchText.ToString();
+	if (!bSearchable || InCharacterEvent.IsControlDown() || InCharacterEvent.IsAltDown())
+	{
+		return FReply::Unhandled();
+	}
+	if ((Character == Backspace || Character == Escape) && !Text.IsEmpty())
+	{
+		Text = Character == Escape ? FString() : Text.LeftChop(1);
+	}
+	else if (Character >= FirstPrintable && Character != DeleteCharacter)
+	{
+		Text += FString(1, &Character);
+	}
+	else
+	{
+		return FReply::Unhandled();
+	}
+	FilterMultiBoxEntries(FText::FromString(Text));
+	return FReply::Handled();
 }
 
 void SMultiBoxWidget::BuildSearchResult()

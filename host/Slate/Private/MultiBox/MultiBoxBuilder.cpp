@@ -10,10 +10,10 @@ FMultiBoxBuilder::FMultiBoxBuilder(const EMultiBoxType InType, FMultiBoxCustomiz
 	const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList,
 	TSharedPtr<FExtender> InExtender, FName InMenuName)
 	: MultiBox(FMultiBox::Create(InType, InCustomization, bInShouldCloseWindowAfterMenuSelection))
+	, Extender(MoveTemp(InExtender))
 	, MenuName(InMenuName)
 {
 	CommandListStack.Add(InCommandList);
-	ExtenderStack.Add(MoveTemp(InExtender));
 }
 
 TSharedRef<SWidget> FMultiBoxBuilder::MakeWidget(
@@ -26,12 +26,6 @@ void FMultiBoxBuilder::PopCommandList()
 {
 	checkf(CommandListStack.Num() > 1, TEXT("There is no pushed command list to pop"));
 	CommandListStack.Pop();
-}
-
-void FMultiBoxBuilder::PopExtender()
-{
-	checkf(ExtenderStack.Num() > 1, TEXT("There is no pushed extender to pop"));
-	ExtenderStack.Pop();
 }
 
 void FMultiBoxBuilder::OpenSection(FName InExtensionHook, const TAttribute<FText>& InHeadingText)
@@ -86,9 +80,9 @@ void FMultiBoxBuilder::AddItem(FMultiBoxItemInfo Info, EMultiBlockType BlockType
 	checkf(BlockType != EMultiBlockType::None, TEXT("A piece of a menu needs a type"));
 	ApplySectionBeginning();
 	Info.Section = SectionHook;
-	Info.Extender = ExtenderStack.Last();
+	Info.Extender = Extender;
 	const TSharedRef<const FMultiBlock> Block = MakeShared<FMultiBoxItemBlock>(
-		BlockType, InExtensionHook, MoveTemp(Info), Command, GetTopCommandList(), Action);
+		BlockType, InExtensionHook, MoveTemp(Info), Command, CommandListStack.Last(), Action);
 	// A section's hook was applied when the section began.
 	const bool bHasHook = !InExtensionHook.IsNone() && InExtensionHook != SectionHook;
 	if (bHasHook)

@@ -89,8 +89,8 @@ void FToolBarBuilder::EndSection()
 
 void FToolBarBuilder::ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition)
 {
-	if (ExtendersEnabled() && !InExtensionHook.IsNone() && ExtenderStack.Last().IsValid())
+	if (!InExtensionHook.IsNone() && Extender.IsValid())
 	{
-		ExtenderStack.Last()->Apply(InExtensionHook, HookPosition, *this);
+		Extender->Apply(InExtensionHook, HookPosition, *this);
 	}
 }

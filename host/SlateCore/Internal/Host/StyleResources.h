@@ -17,9 +17,4 @@ const FString& StyleResourceDir();
 
 /** A brush that can be seen on any ground: the picture for what is missing, or a plain box when that is missing too. */
 TSharedRef<FSlateBrush> MakeMissingImageBrush(const FVector2D& ImageSize);
-
-/** Rises when image files may have come or gone. */
-uint32 ImageFileGeneration();
-/** Makes every style set look for its image files again. */
-void ForgetImageFiles();
 } // namespace Host

@@ -2,6 +2,7 @@
 
 #include "Styling/SlateStyle.h"
 
+#include "Host/Rendering.h"
 #include "Host/StyleResources.h"
 #include "Logging/LogMacros.h"
 #include "Misc/Paths.h"
@@ -129,9 +130,9 @@ bool FSlateStyleSet::HasImageFile(const FSlateBrush& Brush) const
 	{
 		return true;
 	}
-	if (FoundFilesGeneration != Host::ImageFileGeneration())
+	if (FoundFilesReload != Host::TextureReloadCount())
 	{
-		FoundFilesGeneration = Host::ImageFileGeneration();
+		FoundFilesReload = Host::TextureReloadCount();
 		FoundFiles.Empty();
 	}
 	if (const bool* const Known = FoundFiles.Find(File))

@@ -12,8 +12,6 @@ namespace
 {
 namespace fs = std::filesystem;
 
-uint32 Generation = 0;
-
 FString FindResourceDir()
 {
 	std::error_code Error;
@@ -52,15 +50,5 @@ TSharedRef<FSlateBrush> MakeMissingImageBrush(const FVector2D& ImageSize)
 		MakeShared<FSlateRoundedBoxBrush>(FLinearColor::Transparent, 2.0f, FLinearColor(0.8f, 0.1f, 0.6f), 1.0f);
 	Box->ImageSize = ImageSize;
 	return Box;
-}
-
-uint32 ImageFileGeneration()
-{
-	return Generation;
-}
-
-void ForgetImageFiles()
-{
-	++Generation;
 }
 } // namespace Host

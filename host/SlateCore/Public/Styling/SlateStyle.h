@@ -57,7 +57,7 @@ protected:
 private:
 	/** Once for each key. */
 	void ReportMissing(const TCHAR* Kind, const FName Key) const;
-	/** Whether the file of an image brush is there; asked of the disk once. */
+	/** Whether the file of an image brush is there; asked of the disk once between reloads of the pictures. */
 	bool HasImageFile(const FSlateBrush& Brush) const;
 	const FSlateBrush* GetPlaceholder(const FName Key, const FSlateBrush& Brush) const;
 
@@ -75,6 +75,6 @@ private:
 	mutable TSet<FString> Reported;
 	mutable TMap<FName, bool> FoundFiles;
 	mutable TMap<FName, TSharedPtr<FSlateBrush>> Placeholders;
-	/** The state of Host::ImageFileGeneration that FoundFiles belongs to. */
-	mutable uint32 FoundFilesGeneration = 0;
+	/** The count of Host::TextureReloadCount that FoundFiles belongs to. */
+	mutable uint64 FoundFilesReload = 0;
 };

@@ -125,7 +125,9 @@ public:
 	void SetMaxHeight(const TAttribute<float>& InMaxHeight) { MaxHeight = InMaxHeight; }
 	float GetMaxHeight() const { return MaxHeight.Get(0.0f); }
 
-	bool SupportsKeyboardFocus() const override { return MultiBox.IsValid() && MultiBox->bIsFocusable; }
+	bool SupportsKeyboardFocus() const override;
+	/** In a searchable menu: adds the character to the search; the backspace takes one away, escape ends the search. */
+	FReply OnKeyChar(const FGeometry& MyGeometry, const FCharacterEvent& InCharacterEvent) override;
 
 private:
 	friend class FMultiBox;

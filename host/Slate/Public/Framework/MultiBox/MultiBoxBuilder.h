@@ -11,7 +11,7 @@ namespace Host
 struct FMultiBoxItemInfo;
 }
 
-/** What all builders share: the box, the stacks of command lists and extenders, sections, separators and widgets. */
+/** What all builders share: the box, the stack of command lists, the extender, sections, separators and widgets. */
 class FMultiBoxBuilder
 {
 public:
@@ -33,11 +33,6 @@ public:
 	/** Commands that are added from now on are looked for in this list. */
 	void PushCommandList(const TSharedRef<const FUICommandList>& CommandList) { CommandListStack.Add(CommandList); }
 	void PopCommandList();
-	/** Empty when there is none. */
-	TSharedPtr<const FUICommandList> GetTopCommandList() const { return CommandListStack.Last(); }
-	/** Hooks are looked for in this set from now on. */
-	void PushExtender(const TSharedRef<FExtender>& Extender) { ExtenderStack.Add(Extender); }
-	void PopExtender();
 
 	const ISlateStyle* GetStyleSet() const { return MultiBox->GetStyleSet(); }
 	const FName& GetStyleName() const { return MultiBox->GetStyleName(); }
@@ -45,16 +40,13 @@ public:
 	{
 		MultiBox->SetStyle(InStyleSet, InStyleName);
 	}
-	/** Off: hooks are passed over. */
-	void SetExtendersEnabled(bool bEnabled) { bExtendersEnabled = bEnabled; }
-	bool ExtendersEnabled() const { return bExtendersEnabled; }
 
 protected:
 	FMultiBoxBuilder(const EMultiBoxType InType, FMultiBoxCustomization InCustomization,
 		const bool bInShouldCloseWindowAfterMenuSelection, const TSharedPtr<const FUICommandList>& InCommandList,
 		TSharedPtr<FExtender> InExtender, FName InMenuName);
 
-	/** Lets the extender on top add its pieces. */
+	/** Lets the extender add its pieces. */
 	virtual void ApplyHook(FName InExtensionHook, EExtensionHook::Position HookPosition) = 0;
 
 	/** Opens a section whose heading and separator appear with its first piece. */
@@ -69,9 +61,9 @@ protected:
 
 	TSharedRef<FMultiBox> MultiBox;
 	TArray<TSharedPtr<const FUICommandList>> CommandListStack;
-	TArray<TSharedPtr<FExtender>> ExtenderStack;
+	/** Empty for none. */
+	TSharedPtr<FExtender> Extender;
 	FName MenuName;
-	bool bExtendersEnabled = true;
 
 private:
 	void ApplySectionBeginning();
