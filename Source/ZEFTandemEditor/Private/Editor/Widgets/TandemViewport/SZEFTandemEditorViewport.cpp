@@ -6,11 +6,15 @@
 #include "DynamicMesh/DynamicMesh3.h"
 #include "Editor.h"
 #include "Editor/IZEFTandemEditor.h"
+#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewportToolbar.h"
 #include "Editor/Widgets/TandemViewport/ZEFTandemEditorViewportClient.h"
 #include "Editor/ZEFPreviewScene.h"
+#include "Editor/ZEFTandemEditorCommands.h"
 #include "Engine/EngineTypes.h"
 #include "Engine/SkeletalMesh.h"
 #include "Engine/World.h"
+#include "Framework/Commands/UICommandList.h"
+#include "Framework/MultiBox/MultiBoxExtender.h"
 #include "GameFramework/Actor.h"
 #include "Styling/AppStyle.h"
 #include "UnrealClient.h"
@@ -92,6 +96,41 @@ TSharedRef<FEditorViewportClient> SZEFTandemEditorViewport::MakeEditorViewportCl
 	ViewportClient->SetViewRotation(InitialViewRotation);
 	ViewportClient->SetRealtime(true);
 	return ViewportClient.ToSharedRef();
+}
+
+TSharedRef<SEditorViewport> SZEFTandemEditorViewport::GetViewportWidget()
+{
+	return SharedThis(static_cast<SEditorViewport*>(this));
+}
+
+TSharedPtr<FExtender> SZEFTandemEditorViewport::GetExtenders() const
+{
+	return MakeShared<FExtender>();
+}
+
+void SZEFTandemEditorViewport::BindCommands()
+{
+	SAssetEditorViewport::BindCommands();
+	const FZEFTandemEditorCommands& Commands = FZEFTandemEditorCommands::Get();
+	const TSharedRef<FZEFTandemEditorViewportClient> View = ViewportClient.ToSharedRef();
+	const TSharedRef<FEditorViewportClient> EngineView = View;
+	CommandList->MapAction(Commands.SetShowGrid,
+		FExecuteAction::CreateSP(EngineView, &FEditorViewportClient::SetShowGrid), FCanExecuteAction(),
+		FIsActionChecked::CreateSP(EngineView, &FEditorViewportClient::IsSetShowGridChecked));
+	CommandList->MapAction(Commands.SetShowNormals,
+		FExecuteAction::CreateSP(View, &FZEFTandemEditorViewportClient::ToggleDrawNormals), FCanExecuteAction(),
+		FIsActionChecked::CreateSP(View, &FZEFTandemEditorViewportClient::IsDrawingNormals));
+	CommandList->MapAction(Commands.SetShowTangents,
+		FExecuteAction::CreateSP(View, &FZEFTandemEditorViewportClient::ToggleDrawTangents), FCanExecuteAction(),
+		FIsActionChecked::CreateSP(View, &FZEFTandemEditorViewportClient::IsDrawingTangents));
+	CommandList->MapAction(Commands.SetShowBinormals,
+		FExecuteAction::CreateSP(View, &FZEFTandemEditorViewportClient::ToggleDrawBinormals), FCanExecuteAction(),
+		FIsActionChecked::CreateSP(View, &FZEFTandemEditorViewportClient::IsDrawingBinormals));
+}
+
+TSharedPtr<SWidget> SZEFTandemEditorViewport::MakeViewportToolbar()
+{
+	return SNew(SZEFTandemEditorViewportToolbar, SharedThis(this));
 }
 
 void SZEFTandemEditorViewport::PopulateViewportOverlays(TSharedRef<SOverlay> Overlay)

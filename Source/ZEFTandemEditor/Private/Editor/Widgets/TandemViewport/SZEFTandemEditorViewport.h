@@ -5,6 +5,7 @@
 #include "Editor/Widgets/TandemViewport/ZEFOverlayTextItem.h"
 #include "RHIFeatureLevel.h"
 #include "SAssetEditorViewport.h"
+#include "SCommonEditorViewportToolbarBase.h"
 
 class FZEFPreviewScene;
 class FZEFTandemEditorViewportClient;
@@ -22,7 +23,7 @@ namespace UE::Geometry
 class FDynamicMesh3;
 }
 
-class SZEFTandemEditorViewport : public SAssetEditorViewport
+class SZEFTandemEditorViewport : public SAssetEditorViewport, public ICommonEditorViewportToolbarInfoProvider
 {
 public:
 	SLATE_BEGIN_ARGS(SZEFTandemEditorViewport) {}
@@ -48,7 +49,14 @@ public:
 	/** Replaces the lines over the picture. */
 	void PopulateOverlayText(const TArray<FOverlayTextItem>& TextItems);
 
+	// ICommonEditorViewportToolbarInfoProvider
+	virtual TSharedRef<SEditorViewport> GetViewportWidget() override;
+	virtual TSharedPtr<FExtender> GetExtenders() const override;
+	virtual void OnFloatingButtonClicked() override {}
+
 protected:
+	virtual void BindCommands() override;
+	virtual TSharedPtr<SWidget> MakeViewportToolbar() override;
 	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
 	virtual void PopulateViewportOverlays(TSharedRef<SOverlay> Overlay) override;
 
