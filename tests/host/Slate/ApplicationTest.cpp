@@ -315,6 +315,17 @@ TEST_F(Application, WithoutAFocusKeysGoToTheActiveWindow)
 	EXPECT_TRUE(Host::PressKey(EKeys::A));
 }
 
+TEST_F(Application, AWidgetThatLeftItsWindowGetsNoKeys)
+{
+	const TSharedRef<SKeySink> Lost = Sink("lost", EKeys::A);
+	const TSharedRef<SWindow> Window = App().AddWindow(MakeWindow(TEXT("W"), Lost));
+	App().SetKeyboardFocus(Lost);
+	Window->SetContent(SNew(SBox));
+	TakeEvents();
+	EXPECT_FALSE(Host::PressKey(EKeys::A));
+	EXPECT_TRUE(TakeEvents().empty());
+}
+
 TEST_F(Application, AModalWindowKeepsTheKeysFromOthers)
 {
 	const TSharedRef<SKeySink> Behind = Sink("behind", EKeys::A);

@@ -184,6 +184,25 @@ TEST_F(MajorTabs, AFloatingEditorGoesWithTheRootWindow)
 	EXPECT_FALSE(FSlateApplication::Get().GetActiveTopLevelWindow().IsValid());
 }
 
+TEST_F(MajorTabs, TheWindowsOfPanelsMoveWithTheirEditor)
+{
+	OpenFrame();
+	OpenEditor();
+	Host::FloatTab(Tab("View").ToSharedRef(), FVector2D(1.0, 2.0));
+	const TSharedPtr<SWindow> Panel = Tab("View")->GetParentWindow();
+	const TSharedPtr<SWindow> Former = Owner->GetParentWindow();
+	// The editor's window goes with its only tab; the panel's must not go with it.
+	const TSharedPtr<SDockTab> Level = Global().FindExistingLiveTab(FName("LevelEditor"));
+	ASSERT_TRUE(Host::DockTab(Owner.ToSharedRef(), Host::StackOf(*Level).ToSharedRef(), Host::EDockPlace::Into));
+	EXPECT_FALSE(Former->IsVisible());
+	EXPECT_TRUE(Panel->IsVisible());
+	EXPECT_EQ(Panel->GetParentWindow(), FGlobalTabmanager::Get()->GetRootWindow());
+	EXPECT_EQ(Tab("View")->GetParentWindow(), Panel);
+	ASSERT_TRUE(Host::FloatTab(Owner.ToSharedRef(), FVector2D(3.0, 4.0)));
+	EXPECT_EQ(Panel->GetParentWindow(), Owner->GetParentWindow());
+	EXPECT_EQ(Closed.size(), 0u);
+}
+
 TEST_F(MajorTabs, AttentionBringsTheTabItsMajorTabAndTheWindowToTheFront)
 {
 	OpenFrame();

@@ -239,7 +239,9 @@ TArray<TSharedRef<SWidget>> FSlateApplication::KeyPath() const
 	{
 		Widget = Modal;
 	}
-	if (!Widget.IsValid())
+	// What was taken out of its window has no keys to take while there is a window.
+	const bool bLost = Widget.IsValid() && ActiveWindow.IsValid() && !Host::FindWindow(Widget.ToSharedRef()).IsValid();
+	if (!Widget.IsValid() || bLost)
 	{
 		Widget = ActiveWindow.Pin();
 	}
@@ -318,6 +320,18 @@ void FSlateApplication::DismissMenuByWidget(const TSharedRef<SWidget>& InWidgetI
 	if (const TSharedPtr<IMenu> Menu = Host::FindMenu(InWidgetInMenu))
 	{
 		Menu->Dismiss();
+	}
+}
+
+void Host::MoveToParentWindow(const TSharedRef<SWindow>& Window, const TSharedRef<SWindow>& Parent)
+{
+	if (Window != Parent && FWindowAccess::IsOpen(*Window) && FWindowAccess::IsOpen(*Parent))
+	{
+		FWindowAccess::SetParent(Window, Parent);
+		if (FSlateApplication::IsInitialized())
+		{
+			FApplicationAccess::TopLevelWindows(FSlateApplication::Get()).Remove(Window);
+		}
 	}
 }
 

@@ -3,6 +3,7 @@
 #include "Host/Docking.h"
 
 #include "Docking/DockAccess.h"
+#include "Host/Application.h"
 
 namespace Host
 {
@@ -19,6 +20,24 @@ bool IsLive(const TSharedRef<SDockNode>& Target)
 bool MayMove(const SDockTab& Tab, const TSharedPtr<FTabManager>& To)
 {
 	return Tab.GetTabManagerPtr() == To || Tab.GetTabRole() == ETabRole::NomadTab;
+}
+
+/** The windows of the tabs inside a major tab go along: the window that it leaves may be closed. */
+void TakeWindowsAlong(const TSharedRef<SDockTab>& MajorTab)
+{
+	const TSharedPtr<FTabManager> Inner = FGlobalTabmanager::Get()->GetTabManagerForMajorTab(MajorTab);
+	const TSharedPtr<SWindow> Around = MajorTab->GetParentWindow();
+	if (!Inner.IsValid() || !Around.IsValid())
+	{
+		return;
+	}
+	for (const TSharedRef<SDockArea>& Area : LiveAreas(*Inner))
+	{
+		if (const TSharedPtr<SWindow> Window = Area->GetFloatingWindow())
+		{
+			MoveToParentWindow(Window.ToSharedRef(), Around.ToSharedRef());
+		}
+	}
 }
 } // namespace
 
@@ -84,6 +103,7 @@ bool DockTab(const TSharedRef<SDockTab>& Tab, const TSharedRef<SDockNode>& Targe
 		FDockAccess::SplitNode(Target, Into.ToSharedRef(), bBeside ? Orient_Horizontal : Orient_Vertical, bBefore);
 	}
 	FDockAccess::InsertTab(*Into, Tab, Index);
+	TakeWindowsAlong(Tab);
 	FDockAccess::RemoveEmpty(From);
 	FDockAccess::CollapseIfEmpty(FromArea);
 	Tab->ActivateInParent(ETabActivationCause::UserClickedOnTab);
@@ -104,6 +124,7 @@ bool FloatTab(const TSharedRef<SDockTab>& Tab, const FVector2D& Position, const 
 	const TSharedRef<SDockStack> Into =
 		FDockAccess::NewFloatingStack(Manager.ToSharedRef(), Tab->GetTabRole(), &Position, Size);
 	FDockAccess::InsertTab(*Into, Tab, INDEX_NONE);
+	TakeWindowsAlong(Tab);
 	FDockAccess::RemoveEmpty(From.ToSharedRef());
 	FDockAccess::CollapseIfEmpty(FromArea);
 	Tab->ActivateInParent(ETabActivationCause::UserClickedOnTab);
