@@ -201,6 +201,29 @@ TEST_F(LevelEditorFrame, ClosedTabsStayClosedAtTheNextStartAndComeBackFromTheMen
 	EXPECT_EQ(ContentBrowser()->GetParentWindow(), Frame->GetWindow());
 }
 
+TEST_F(LevelEditorFrame, EditorsFindTheirPlacesAgainAfterAnEndWithOpenEditors)
+{
+	const auto Insert = [](const TCHAR* Place, const FTabManager::FSearchPreference& Preference)
+	{
+		const TSharedRef<SDockTab> Editor = MakeEditorTab();
+		FGlobalTabmanager::Get()->InsertNewDocumentTab(Place, Preference, Editor);
+		return Editor;
+	};
+	Open();
+	Insert(TEXT("DockedToolkit"), FTabManager::FLiveTabSearch("LevelEditor"));
+	const TSharedRef<SDockTab> Alone = Insert(TEXT("StandaloneToolkit"), FTabManager::FRequireClosedTab());
+	Alone->GetParentWindow()->Resize(FVector2D(900.0, 700.0));
+	Frame->Close();
+
+	Open();
+	EXPECT_EQ(Host::OpenTabs(*FGlobalTabmanager::Get()).Num(), 1);
+	EXPECT_EQ(FSlateApplication::Get().GetTopLevelWindows().Num(), 1);
+	const TSharedRef<SDockTab> Docked = Insert(TEXT("DockedToolkit"), FTabManager::FLiveTabSearch("LevelEditor"));
+	EXPECT_EQ(Docked->GetParentWindow(), Frame->GetWindow());
+	const TSharedRef<SDockTab> Again = Insert(TEXT("StandaloneToolkit"), FTabManager::FRequireClosedTab());
+	EXPECT_EQ(Again->GetParentWindow()->GetClientSizeInScreen(), FVector2D(900.0, 700.0));
+}
+
 TEST_F(LevelEditorFrame, ABrokenLayoutGivesTheDefaultOneWithALineInTheLog)
 {
 	GConfig->SetString(TEXT("EditorLayouts"), TEXT("UnrealEd_Layout_v1.0"), TEXT("{ rubbish"), GEditorLayoutIni);

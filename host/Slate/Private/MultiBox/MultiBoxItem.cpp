@@ -237,11 +237,12 @@ TSharedRef<SWidget> SMultiBoxItem::OpenMenu() const
 
 TArray<TSharedRef<SMultiBoxItem>> GetMultiBoxItems(const TSharedRef<SWidget>& Root)
 {
+	static const FName ItemType(TEXT("SMultiBoxItem"));
 	TArray<TSharedRef<SMultiBoxItem>> Items;
 	ForEachWidget(Root,
 		[&](const TSharedRef<SWidget>& Widget)
 		{
-			if (Widget->GetType() == FName(TEXT("SMultiBoxItem")))
+			if (Widget->GetType() == ItemType)
 			{
 				Items.Add(StaticCastSharedRef<SMultiBoxItem>(Widget));
 			}
