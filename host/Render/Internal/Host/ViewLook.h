@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Host/SceneCamera.h"
+#include "Host/SceneRenderer.h"
+
+class FSceneView;
+class UWorld;
+
+/** What a view of the editor asks of a picture. */
+namespace Host
+{
+
+/**
+ * The camera of a view. A parallel view is seen from so far away, through so narrow an angle, that no perspective
+ * shows: at the depth of the middle of the box it is exactly as wide as the view says.
+ */
+FCameraSnapshot CameraOf(const FSceneView& View, const FSceneBounds& Bounds);
+
+/**
+ * Lights the scene as its world says, after LookAtScene or LookAtSceneFrom: the first directional light is the key
+ * light, the sky light scales what comes from all sides, and the surroundings decide on floor, backdrop and the turn of
+ * the studio's other lamps. What the world does not have stays as it is.
+ */
+void ApplyWorldLook(FSceneSnapshot& Scene, const UWorld& World);
+
+/** Leaves out what the view's show flags switch off. */
+FRenderOptions OptionsFor(const FSceneView& View, const FRenderOptions& Options);
+
+} // namespace Host
