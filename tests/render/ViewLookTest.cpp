@@ -121,3 +121,26 @@ TEST_F(ViewLook, ShowFlagsLeaveOutWhatTheySwitchOff)
 	Family.EngineShowFlags.SetLighting(false);
 	EXPECT_FALSE(OptionsFor(View, Options).bShadows);
 }
+
+TEST_F(ViewLook, AViewDecidesOnCameraLampsAndFloor)
+{
+	FPreviewScene Preview;
+	FSceneViewFamily Family;
+	Family.Scene = Preview.GetScene();
+	FSceneView View = ViewOf(FVector(300.0, 0.0, 100.0), FRotator(0.0, 180.0, 0.0), 0.0);
+	View.Family = &Family;
+	FSceneBounds Bounds;
+	Bounds.Include({-10.0f, -10.0f, -5.0f});
+	Bounds.Include({10.0f, 10.0f, 50.0f});
+	FSceneSnapshot Scene;
+	LookThrough(Scene, View, Bounds);
+	EXPECT_EQ(Scene.Camera.Location.X, 300.0f);
+	EXPECT_EQ(Scene.Lights.size(), 4u);
+	EXPECT_EQ(Scene.Surroundings.FloorPoint.Z, -5.0f);
+
+	Family.EngineShowFlags.SetLighting(false);
+	LookThrough(Scene, View, Bounds);
+	EXPECT_TRUE(Scene.Lights.empty());
+	EXPECT_EQ(Scene.Surroundings.Sky.Y, 1.0f);
+	EXPECT_EQ(Scene.Surroundings.Ground.Y, 1.0f);
+}

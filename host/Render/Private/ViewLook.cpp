@@ -96,6 +96,26 @@ void ApplyWorldLook(FSceneSnapshot& Scene, const UWorld& World)
 	}
 }
 
+void LookThrough(FSceneSnapshot& Scene, const FSceneView& View, const FSceneBounds& Bounds)
+{
+	Scene.Camera = CameraOf(View, Bounds);
+	Scene.Lights = StudioLights(Scene.Camera);
+	PlaceFloor(Scene.Surroundings, Bounds);
+	if (!View.Family)
+	{
+		return;
+	}
+	if (View.Family->Scene)
+	{
+		ApplyWorldLook(Scene, *View.Family->Scene->GetWorld());
+	}
+	if (!View.Family->EngineShowFlags.Lighting)
+	{
+		Scene.Lights.clear();
+		Scene.Surroundings.Sky = Scene.Surroundings.Ground = {1.0f, 1.0f, 1.0f};
+	}
+}
+
 FRenderOptions OptionsFor(const FSceneView& View, const FRenderOptions& Options)
 {
 	FRenderOptions Result = Options;

@@ -24,6 +24,14 @@ FCameraSnapshot CameraOf(const FSceneView& View, const FSceneBounds& Bounds);
  */
 void ApplyWorldLook(FSceneSnapshot& Scene, const UWorld& World);
 
+/**
+ * Everything that a view decides on: camera, lamps and floor as LookAtSceneFrom sets them, then the look of the view's
+ * world. Without lighting, surfaces show their own colours and nothing casts a shadow.
+ *
+ * @param Bounds  the box around the scene's objects
+ */
+void LookThrough(FSceneSnapshot& Scene, const FSceneView& View, const FSceneBounds& Bounds);
+
 /** Leaves out what the view's show flags switch off. */
 FRenderOptions OptionsFor(const FSceneView& View, const FRenderOptions& Options);
 
