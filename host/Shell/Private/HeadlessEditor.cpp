@@ -7,26 +7,21 @@
 #include "Editor/ZEFTandemEditor.h"
 #include "Editor/ZEFTandemEditorCommands.h"
 #include "Editor/ZEFTandemEditorModule.h"
-#include "Editor/ZEFTandemProgress.h"
 #include "Engine/World.h"
 #include "Framework/Commands/UICommandList.h"
-#include "Host/EngineLoop.h"
-#include "Host/FilePackageStore.h"
+#include "Host/EditorSession.h"
 #include "Host/ObjectCensus.h"
 #include "Host/PngFile.h"
 #include "Host/SceneCamera.h"
 #include "Host/SceneCapture.h"
 #include "Host/SceneRenderer.h"
 #include "Modules/ModuleManager.h"
-#include "ProjectFolder.h"
 #include "UObject/GarbageCollection.h"
 #include "UObject/UObjectGlobals.h"
 #include "UpdateRows.h"
-#include "Zef/Address.h"
 #include "ZEFTandemClientComponent.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <map>
 #include <thread>
 
@@ -61,41 +56,16 @@ public:
 	{
 	}
 
-	~FImpl()
-	{
-		if (!Engine.IsRunning())
-		{
-			return;
-		}
-		DestroyProgress();
-		Editor.Reset();
-		Engine.Exit();
-		SetPackageStore(nullptr);
-	}
+	~FImpl() { Editor.Reset(); }
 
 	std::string Start()
 	{
-		std::string Error = PrepareProject(Options.Project);
-		if (!Error.empty())
+		std::string Error = Session.Start({Options.Project, Options.Plugin, Options.Endpoint});
+		if (Error.empty())
 		{
-			return Error;
+			Open();
 		}
-		if (!Options.Endpoint.empty())
-		{
-			setenv(Zef::EndpointVariable, Options.Endpoint.c_str(), 1);
-		}
-		SetPackageStore(&PackageStore);
-		FEngineLoopOptions Boot;
-		Boot.ProjectDir = ToString(Options.Project);
-		Boot.PluginDir = ToString(Options.Plugin);
-		Boot.Modules = {TEXT("ZEFTandemRuntime"), TEXT("ZEFTandemEditor")};
-		FString BootError;
-		if (!Engine.Init(Boot, BootError))
-		{
-			return TCHAR_TO_UTF8(*BootError);
-		}
-		Open();
-		return {};
+		return Error;
 	}
 
 	FUpdateOutcome Update()
@@ -204,7 +174,7 @@ private:
 			}
 			const double DeltaSeconds = SecondsSince(LastFrame);
 			LastFrame = FClock::now();
-			Engine.Tick(DeltaSeconds);
+			Session.Engine().Tick(DeltaSeconds);
 			EndConversion();
 			std::this_thread::sleep_for(IdleTime);
 		}
@@ -214,8 +184,7 @@ private:
 	FHeadlessOptions Options;
 	FConsoleLog ConsoleLog;
 	FConsoleDialogs Dialogs;
-	FFilePackageStore PackageStore;
-	FEngineLoop Engine;
+	FEditorSession Session;
 	TSharedPtr<FZEFTandemEditor> Editor;
 	UZEFTandemClientComponent* Client = nullptr; // the editor's
 	FSceneCapture Capture;
