@@ -20,6 +20,18 @@ std::string ToOneLine(const FText& Text)
 	return Line;
 }
 
+template <typename AnswerType>
+AnswerType TakeAnswer(std::deque<AnswerType>& Answers, AnswerType Otherwise)
+{
+	if (Answers.empty())
+	{
+		return Otherwise;
+	}
+	const AnswerType Answer = Answers.front();
+	Answers.pop_front();
+	return Answer;
+}
+
 } // namespace
 
 FConsoleDialogs::FConsoleDialogs()
@@ -36,14 +48,12 @@ EAppReturnType::Type FConsoleDialogs::OpenMessage(EAppMsgCategory /*Category*/, 
 	EAppReturnType::Type Default, const FText& Message, const FText& Title)
 {
 	Messages.push_back(Title.IsEmpty() ? ToOneLine(Message) : ToOneLine(Title) + ": " + ToOneLine(Message));
-	return Default;
+	return TakeAnswer(MessageAnswers, Default);
 }
 
 FSuppressableAnswer FConsoleDialogs::OpenSuppressable(const FSuppressableRequest& /*Request*/)
 {
-	FSuppressableAnswer Answer;
-	Answer.bConfirmed = true;
-	return Answer;
+	return TakeAnswer(SuppressableAnswers, FSuppressableAnswer{true, false});
 }
 
 std::vector<std::string> FConsoleDialogs::TakeMessages()
