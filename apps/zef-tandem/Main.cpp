@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 /** The editor as a program. */
+#include "Host/EditorScript.h"
 #include "Host/HeadlessEditor.h"
 #include "Host/UpdateReport.h"
+#include "RunScript.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
@@ -83,7 +85,7 @@ int main(int ArgumentCount, char** Arguments)
 {
 	CLI::App App("The editor of ZEF/KR Tandem without the engine.", "zef-tandem");
 	App.set_version_flag("--version", ZEF_VERSION);
-	App.require_subcommand(1);
+	App.require_subcommand(0, 1);
 
 	FUpdateCommand Command;
 	Command.Editor.Plugin = DefaultPlugin();
@@ -99,6 +101,13 @@ int main(int ArgumentCount, char** Arguments)
 		"ZeroMQ endpoint of the garment application in place of the channel \"Tandem\", for instance "
 		"ipc:///run/user/1000/my.sock or tcp://127.0.0.1:7000");
 	App.add_flag("--verbose", Command.Editor.bVerbose, "Print every line of the log");
+
+	std::filesystem::path Script;
+	App.add_option("--script", Script, "With --headless: run a list of commands, see below; - for the standard input");
+	App.add_option("--timeout", Command.Editor.Timeout, "Seconds to wait for the garment application")
+		->check(CLI::Range(0.1, 3600.0))
+		->capture_default_str();
+	App.footer("Lines of a script:\n" + Host::DescribeEditorScripts());
 
 	CLI::App* const Update = App.add_subcommand(
 		"update", "Ask the garment application for everything it holds, show it in the preview, print a table of it.");
@@ -118,13 +127,28 @@ int main(int ArgumentCount, char** Arguments)
 		->check(CLI::Range(5.0F, 170.0F))
 		->capture_default_str();
 	Update->add_flag("--unified-material", Command.Editor.bUnifiedMaterial, "Receive the garment with one material");
-	Update->add_option("--timeout", Command.Editor.Timeout, "Seconds to wait for the garment application")
-		->check(CLI::Range(0.1, 3600.0))
-		->capture_default_str();
 	Update->add_option("--repeat", Command.Repeat, "Run that many updates in the same editor")
 		->check(CLI::Range(1, 1000000))
 		->capture_default_str();
 
 	CLI11_PARSE(App, ArgumentCount, Arguments);
+	if (!Script.empty())
+	{
+		if (Update->parsed())
+		{
+			fmt::print(stderr,
+				"zef-tandem: a script and a command do not go together; write the command's work into the "
+				"script\n");
+			return ExitFailure;
+		}
+		return RunScript(Command.Editor, Script);
+	}
+	if (!Update->parsed())
+	{
+		fmt::print(stderr,
+			"zef-tandem: what is to be done? Give a command, for instance: zef-tandem --headless update, "
+			"or a script: zef-tandem --headless --script FILE\n");
+		return ExitFailure;
+	}
 	return RunUpdate(Command);
 }
