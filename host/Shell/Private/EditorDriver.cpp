@@ -13,12 +13,12 @@
 #include "Framework/Commands/UICommandList.h"
 #include "Framework/Docking/TabManager.h"
 #include "Host/Docking.h"
+#include "Host/LevelEditorFrame.h"
 #include "Host/MultiBoxes.h"
 #include "Host/PngFile.h"
 #include "Host/SceneCamera.h"
 #include "Host/SceneRenderer.h"
 #include "Modules/ModuleManager.h"
-#include "ToolMenus.h"
 #include "UpdateRows.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "ZEFTandemClientComponent.h"
@@ -133,9 +133,8 @@ TSharedPtr<FZEFTandemEditor> FEditorDriver::GetEditor() const
 std::string FEditorDriver::OpenEditor()
 {
 	const bool bWasOpen = IsEditorOpen();
-	const TSharedRef<SWidget> ToolBar =
-		UToolMenus::Get()->GenerateWidget(TEXT("LevelEditor.LevelEditorToolBar"), FToolMenuContext());
-	const TSharedPtr<SMultiBoxItem> Button = FindMultiBoxItemByName(ToolBar, TEXT("OpenPluginWindow"));
+	const TSharedPtr<SWidget> ToolBar = Session.Engine().OpenLevelEditor()->GetToolBar();
+	const TSharedPtr<SMultiBoxItem> Button = FindMultiBoxItemByName(ToolBar.ToSharedRef(), TEXT("OpenPluginWindow"));
 	if (!Button.IsValid() || !Button->Press() || !IsEditorOpen())
 	{
 		return "the level editor's tool bar has no entry that opens the editor";
