@@ -514,6 +514,11 @@ void Mutate(FUncheckedRecord& Record, FRandom& Random)
 		MutateFrame(Record, Random);
 		return;
 	}
+	if (Record.Item == Zef::EItem::UpdateAnnouncement)
+	{
+		Record.Announcement.Objects.push_back({Pick(Random, Types), Random()});
+		return;
+	}
 	if (!Record.HasMesh())
 	{
 		return;

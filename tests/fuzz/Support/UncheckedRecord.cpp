@@ -222,6 +222,17 @@ std::optional<FUncheckedRecord> ReadUnchecked(const FArrival& Arrival)
 				Body.message() ? Body.message()->str() : "");
 			return Record;
 		}
+		case EItem::UpdateAnnouncement:
+		{
+			const auto* Objects = Item.body_as_UpdateAnnouncement()->objects();
+			const std::size_t Count = Objects != nullptr ? std::min<std::size_t>(Objects->size(), MaxElements) : 0;
+			for (std::size_t Index = 0; Index < Count; ++Index)
+			{
+				const Wire::AnnouncedObject& Object = *Objects->Get(static_cast<flatbuffers::uoffset_t>(Index));
+				Record.Announcement.Objects.push_back({static_cast<EObjectType>(Object.object_type()), Object.bytes()});
+			}
+			return Record;
+		}
 		default:
 			return std::nullopt;
 	}
@@ -267,6 +278,9 @@ FArrival WriteUnchecked(const FUncheckedRecord& Record)
 			break;
 		case EItem::Fault:
 			Item = EncodeFault(Record.Fault);
+			break;
+		case EItem::UpdateAnnouncement:
+			Item = EncodeUpdateAnnouncement(Record.Announcement);
 			break;
 		default:
 			Item = EncodeAvailabilityRequest();

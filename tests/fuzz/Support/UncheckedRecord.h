@@ -17,6 +17,7 @@ struct FUncheckedRecord
 	Zef::FObjectTypeInfo Info;
 	Zef::FAvailability Availability;
 	Zef::FLinkFault Fault;
+	Zef::FUpdateAnnouncement Announcement;
 	/** The mesh of a reply or of an animation, and the animation's poses. */
 	Zef::FJointAnimation Animation;
 	Zef::FMeshSequenceFrame Frame;
