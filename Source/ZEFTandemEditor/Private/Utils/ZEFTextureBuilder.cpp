@@ -11,6 +11,21 @@ namespace ZEFEditorUtils
 namespace
 {
 
+constexpr int64 RunBytes = 256;
+
+/** Copies whole pixels with their first and third byte exchanged. */
+template <int32 NumPixels>
+void SwapRedAndBlue(const uint8* Source, uint8* Target)
+{
+	uint32 Pixels[NumPixels];
+	FMemory::Memcpy(Pixels, Source, sizeof(Pixels));
+	for (uint32& Pixel : Pixels)
+	{
+		Pixel = (Pixel & 0xFF00FF00u) | ((Pixel & 0xFFu) << 16) | ((Pixel >> 16) & 0xFFu);
+	}
+	FMemory::Memcpy(Target, Pixels, sizeof(Pixels));
+}
+
 /**
  * Copies the pixels into a buffer of exactly the size that the source will read, and turns R, G, B, A bytes into
  * B, G, R, A on the way. Bytes that the record lacks are zero, so a short record is never read past its end.
@@ -24,12 +39,14 @@ void CopyPixels(const FZEFTexture& Texture, int64 Size, bool bSwapRedAndBlue, TA
 	int64 Byte = 0;
 	if (bSwapRedAndBlue)
 	{
+		// A fixed number of whole pixels at a time, for which the compiler uses vector instructions.
+		for (; Byte + RunBytes <= Available; Byte += RunBytes)
+		{
+			SwapRedAndBlue<RunBytes / 4>(Source + Byte, Target + Byte);
+		}
 		for (; Byte + 4 <= Available; Byte += 4)
 		{
-			Target[Byte] = Source[Byte + 2];
-			Target[Byte + 1] = Source[Byte + 1];
-			Target[Byte + 2] = Source[Byte];
-			Target[Byte + 3] = Source[Byte + 3];
+			SwapRedAndBlue<1>(Source + Byte, Target + Byte);
 		}
 	}
 	if (Byte < Available)
