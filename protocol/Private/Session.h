@@ -57,7 +57,8 @@ public:
 	/** Sends what the window allows. False when the peer is gone. */
 	bool Pump();
 
-	/** Whether so much has been taken since the last credit that the other end should hear of it before more is taken. */
+	/** Whether so much has been taken since the last credit that the other end should hear of it before more is taken.
+	 */
 	bool OwesCredit() const { return Taken - Credited >= WindowBytes / CreditsPerWindow; }
 
 	/** Tells the other end what has been taken. @param bHold  too much waits for the program: credit later */
