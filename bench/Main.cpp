@@ -3,6 +3,7 @@
 
 #include "Subjects/Subjects.h"
 #include "Support/Comparison.h"
+#include "Support/EngineSession.h"
 #include "Support/Machine.h"
 #include "Zef/Peer/FilesReader.h"
 
@@ -43,6 +44,7 @@ int Usage()
 void Put(const std::string& Text, const char* File)
 {
 	std::fputs(Text.c_str(), stdout);
+	std::fflush(stdout);
 	if (File != nullptr)
 	{
 		std::ofstream(File, std::ios::app) << Text;
@@ -94,10 +96,16 @@ int main(int ArgumentCount, char** Arguments)
 		{
 			int RestCount = static_cast<int>(Rest.size());
 			benchmark::Initialize(&RestCount, Rest.data());
-			Bench::FSuite Suite;
-			Subject.Measure(Suite);
-			const bool bAgreed = Suite.Run(Repetitions);
-			Put(Suite.Tables(), File);
+			bool bAgreed = false;
+			{
+				Bench::FSuite Suite;
+				Subject.Measure(Suite);
+				bAgreed = Suite.Run(Repetitions);
+				Put(Suite.Tables(), File);
+			}
+			// What was timed is held by the suite and by the benchmarks.
+			benchmark::ClearRegisteredBenchmarks();
+			Bench::StopEngine();
 			return bAgreed ? 0 : 1;
 		}
 	}

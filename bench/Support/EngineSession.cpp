@@ -13,6 +13,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 
 namespace Bench
 {
@@ -59,17 +60,23 @@ struct FSession
 	}
 };
 
-FSession& Session()
-{
-	static FSession Running;
-	return Running;
-}
+/** Ended by StopEngine and not at the program's exit, when parts of the engine that were made later are gone. */
+std::unique_ptr<FSession> Session;
 
 } // namespace
 
 std::string StartEngine()
 {
-	return Session().Error;
+	if (!Session)
+	{
+		Session = std::make_unique<FSession>();
+	}
+	return Session->Error;
+}
+
+void StopEngine()
+{
+	Session.reset();
 }
 
 TSharedPtr<FZEFTandemEditor> OpenEditor(const std::string& Endpoint)
@@ -81,7 +88,7 @@ TSharedPtr<FZEFTandemEditor> OpenEditor(const std::string& Endpoint)
 
 void TickEngine(double Seconds)
 {
-	Session().Engine.Tick(Seconds);
+	Session->Engine.Tick(Seconds);
 }
 
 void CollectObjects()

@@ -14,6 +14,9 @@ namespace Bench
 /** Boots it at the first call. @return why it cannot run, or nothing */
 std::string StartEngine();
 
+/** Ends it, when nothing of it is held any more. */
+void StopEngine();
+
 /** An open editor that looks for its garment application at that endpoint. */
 TSharedPtr<FZEFTandemEditor> OpenEditor(const std::string& Endpoint);
 
