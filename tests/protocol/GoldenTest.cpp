@@ -97,7 +97,10 @@ Zef::FEncodedItem Rewritten(Zef::FDecodedItem& Item)
 {
 	const auto Mesh = [&] { return std::make_shared<Zef::FSurfaceMesh>(RecordOf(Item).SurfaceMesh); };
 	const auto Animation = [&]
-	{ return std::make_shared<Zef::FJointAnimation>(RecordOf(Item).SurfaceMesh, RecordOf(Item).Sequence); };
+	{
+		return std::make_shared<Zef::FJointAnimation>(
+			Zef::FJointAnimation{RecordOf(Item).SurfaceMesh, RecordOf(Item).Sequence});
+	};
 	switch (Item.Item)
 	{
 		case Zef::EItem::Enable:
