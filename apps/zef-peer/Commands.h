@@ -23,6 +23,7 @@ struct FServeOptions
 	FProjectOptions Project;
 	std::string Channel = "Tandem";
 	std::string Endpoint;
+	std::string KeyFile;
 	std::filesystem::path SaveDirectory;
 	std::filesystem::path ReadyFile;
 	/** Editors to come and go before the program ends; 0: any number. */

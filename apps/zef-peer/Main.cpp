@@ -6,6 +6,7 @@
 
 #include "Commands.h"
 #include "ConformanceCommand.h"
+#include "LinkCommands.h"
 #include "Zef/Peer/FilesReader.h"
 
 namespace
@@ -82,9 +83,13 @@ int main(int ArgumentCount, char** Arguments)
 		->type_name("NAME");
 	ServeCommand
 		->add_option("--endpoint", ServeOptions.Endpoint,
-			"Bind this local endpoint in ZeroMQ's notation in place of the channel's own, for instance "
-			"tcp://127.0.0.1:5600 or tcp://127.0.0.1:*")
+			"Bind this endpoint in ZeroMQ's notation in place of the channel's own, for instance "
+			"tcp://127.0.0.1:5600 or tcp://127.0.0.1:*, or with keys tcp://*:5600")
 		->type_name("ENDPOINT");
+	ServeCommand
+		->add_option("--keys", ServeOptions.KeyFile,
+			"Key file of this end, made by \"zef-peer keys\"; an endpoint that others can reach needs it")
+		->type_name("FILE");
 	ServeCommand
 		->add_option("--save-dir", ServeOptions.SaveDirectory,
 			"Folder for the joint animations that an editor sends, one glTF file each; without it they are only told")
@@ -125,6 +130,11 @@ int main(int ArgumentCount, char** Arguments)
 	FFaultsOptions FaultsOptions;
 	CLI::App* const FaultsCommand = AddFaultsCommand(Program, FaultsOptions);
 
+	FReplayOptions ReplayOptions;
+	CLI::App* const ReplayCommand = AddReplayCommand(Program, ReplayOptions);
+	std::string KeysName;
+	CLI::App* const KeysCommand = AddKeysCommand(Program, KeysName);
+
 	CLI11_PARSE(Program, ArgumentCount, Arguments);
 	if (*ServeCommand)
 	{
@@ -141,6 +151,14 @@ int main(int ArgumentCount, char** Arguments)
 	if (*FaultsCommand)
 	{
 		return Faults(FaultsOptions);
+	}
+	if (*ReplayCommand)
+	{
+		return Replay(ReplayOptions);
+	}
+	if (*KeysCommand)
+	{
+		return Keys(KeysName);
 	}
 	return Info(InfoOptions);
 }

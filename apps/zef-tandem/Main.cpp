@@ -3,7 +3,9 @@
 #include "Host/EditorScript.h"
 #include "Host/HeadlessEditor.h"
 #include "Host/UpdateReport.h"
+#include "LinkCommands.h"
 #include "RunScript.h"
+#include "Zef/Keys.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/core.h>
@@ -100,13 +102,17 @@ int main(int ArgumentCount, char** Arguments)
 	App.add_option("--endpoint", Command.Editor.Endpoint,
 		"ZeroMQ endpoint of the garment application in place of the channel \"Tandem\", for instance "
 		"ipc:///run/user/1000/my.sock or tcp://127.0.0.1:7000");
+	std::string KeyFile;
+	App.add_option("--keys", KeyFile, "Key file of this end, made by \"keys\"; an endpoint on another machine needs it")
+		->type_name("FILE");
 	App.add_flag("--verbose", Command.Editor.bVerbose, "Print every line of the log");
 
 	std::filesystem::path Script;
 	App.add_option("--script", Script, "With --headless: run a list of commands, see below; - for the standard input");
-	App.add_option("--timeout", Command.Editor.Timeout, "Seconds to wait for the garment application")
-		->check(CLI::Range(0.1, 3600.0))
-		->capture_default_str();
+	const CLI::Option* const Timeout =
+		App.add_option("--timeout", Command.Editor.Timeout, "Seconds to wait for the garment application")
+			->check(CLI::Range(0.1, 3600.0))
+			->capture_default_str();
 	App.footer("Lines of a script:\n" + Host::DescribeEditorScripts());
 
 	CLI::App* const Update = App.add_subcommand(
@@ -131,7 +137,36 @@ int main(int ArgumentCount, char** Arguments)
 		->check(CLI::Range(1, 1000000))
 		->capture_default_str();
 
+	FLinkOptions DoctorOptions;
+	CLI::App* const DoctorCommand = AddDoctorCommand(App, DoctorOptions);
+	FRecordOptions RecordOptions;
+	CLI::App* const RecordCommand = AddRecordCommand(App, RecordOptions);
+	std::string KeysName;
+	CLI::App* const KeysCommand = AddKeysCommand(App, KeysName);
+
 	CLI11_PARSE(App, ArgumentCount, Arguments);
+	DoctorOptions.Endpoint = RecordOptions.Link.Endpoint = Command.Editor.Endpoint;
+	DoctorOptions.KeyFile = RecordOptions.Link.KeyFile = KeyFile;
+	if (Timeout->count() > 0)
+	{
+		DoctorOptions.Timeout = RecordOptions.Link.Timeout = Command.Editor.Timeout;
+	}
+	if (*DoctorCommand)
+	{
+		return Doctor(DoctorOptions);
+	}
+	if (*RecordCommand)
+	{
+		return Record(RecordOptions);
+	}
+	if (*KeysCommand)
+	{
+		return Keys(KeysName);
+	}
+	if (!KeyFile.empty())
+	{
+		setenv(Zef::KeysVariable, KeyFile.c_str(), 1);
+	}
 	if (!Script.empty())
 	{
 		if (Update->parsed())

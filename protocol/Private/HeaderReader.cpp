@@ -83,6 +83,15 @@ EItem ItemOf(Wire::Body Body)
 	return EItem::None;
 }
 
+EItem KindOfHeader(FByteView Header)
+{
+	// Verification wants the alignment that a vector's memory has.
+	const FBytes Aligned(Header.begin(), Header.end());
+	flatbuffers::Verifier Verifier(Aligned.data(), Aligned.size());
+	return Wire::VerifySizePrefixedItemBuffer(Verifier) ? ItemOf(Wire::GetSizePrefixedItem(Aligned.data())->body_type())
+														: EItem::None;
+}
+
 FHeaderReader::FHeaderReader(FMemoryBudget& InBudget)
 	: Budget(InBudget)
 {

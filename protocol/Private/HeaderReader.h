@@ -5,6 +5,7 @@
 #include "MemoryBudget.h"
 #include "Zef/Fault.h"
 #include "Zef/Items.h"
+#include "Zef/Wire.h"
 
 #include "tandem_generated.h"
 
@@ -13,6 +14,9 @@ namespace Zef
 
 /** The item whose body is of that type; None for a number outside the schema. */
 EItem ItemOf(Wire::Body Body);
+
+/** The kind of the item whose header that is; None when it is no valid one. */
+EItem KindOfHeader(FByteView Header);
 
 /**
  * Copies tables into records. Text is taken as it is; absent strings are empty, absent transforms the identity.

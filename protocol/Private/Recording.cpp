@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Zef/Recording.h"
 
+#include "HeaderReader.h"
 #include "OwnFile.h"
 #include "RecordingFile.h"
+#include "Zef/Decode.h"
+#include "Zef/RecordPool.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -127,42 +130,119 @@ FLinkFault Bad(const std::string& Path, const std::string& What)
 	return MakeFault(EFault::BadRecording, "", "\"" + Path + "\" " + What);
 }
 
-/** Puts a record where it belongs. */
-void Take(FRecording& Recording, const FRecordReader& Reader)
+/** The request that a reply answers; None for what may answer any. */
+EItem RequestOf(EItem Reply)
 {
-	const auto Text = [](FByteView Bytes) { return std::string(Bytes.begin(), Bytes.end()); };
-	switch (Reader.Kind)
+	switch (Reply)
 	{
-		case ERecord::Connected:
-			Recording.ProtocolVersion = std::max(Recording.ProtocolVersion, Reader.Version);
-			Recording.Program = Reader.Parts.empty() ? "" : Text(Reader.Parts[0]);
-			break;
-		case ERecord::Request:
-			Recording.Requests.emplace_back().Header = Reader.Parts.empty() ? FByteView() : Reader.Parts[0];
-			break;
-		case ERecord::Message:
-			if (Recording.Requests.empty())
-			{
-				Recording.Requests.emplace_back();
-			}
-			Recording.Requests.back().Messages.push_back({Reader.Parts});
-			++Recording.MessageCount;
-			for (const FByteView Part : Reader.Parts)
-			{
-				Recording.MessageBytes += Part.size();
-			}
-			break;
-		case ERecord::Lost:
-			if (!Recording.Requests.empty())
-			{
-				Recording.Requests.back().bLost = true;
-				Recording.Requests.back().LostReason = Reader.Parts.empty() ? "" : Text(Reader.Parts[0]);
-			}
-			break;
+		case EItem::UpdateAnnouncement:
+		case EItem::SurfaceMesh:
+			return EItem::RequestUpdate;
+		case EItem::JointAnimation:
+		case EItem::SequenceBegin:
+		case EItem::SequenceFrame:
+		case EItem::SequenceEnd:
+			return EItem::RequestAnimation;
+		case EItem::Availability:
+			return EItem::RequestAvailability;
 		default:
-			break;
+			return EItem::None;
 	}
 }
+
+/** Puts records where they belong. Requests and replies are paired by their kind, as everywhere on the link. */
+class FRecordingBuilder
+{
+public:
+	explicit FRecordingBuilder(FRecording& InRecording)
+		: Recording(InRecording)
+		, Decoder(Factory, EReceiver::GarmentApplication, FLimits())
+	{
+	}
+
+	void Take(const FRecordReader& Reader)
+	{
+		const FByteView First = Reader.Parts.empty() ? FByteView() : Reader.Parts[0];
+		switch (Reader.Kind)
+		{
+			case ERecord::Connected:
+				Recording.ProtocolVersion = std::max(Recording.ProtocolVersion, Reader.Version);
+				Recording.Program.assign(First.begin(), First.end());
+				break;
+			case ERecord::Request:
+				TakeRequest(First);
+				break;
+			case ERecord::Message:
+				TakeMessage(Reader.Parts);
+				break;
+			case ERecord::Lost:
+				if (!Recording.Requests.empty())
+				{
+					Recording.Requests.back().bLost = true;
+					Recording.Requests.back().LostReason.assign(First.begin(), First.end());
+				}
+				break;
+			default:
+				break;
+		}
+	}
+
+private:
+	void TakeRequest(FByteView Header)
+	{
+		FRecordedRequest& Request = Recording.Requests.emplace_back();
+		Request.Header = Header;
+		Current = Recording.Requests.size() - 1;
+		if (Decoder.Header(++Number, Header) != EDecode::Refused)
+		{
+			Request.Item = Decoder.CurrentItem();
+			const FDecodedItem Item = Decoder.Take();
+			Request.Options = Item.Options;
+			Request.Info = Item.Info;
+		}
+	}
+
+	void TakeMessage(const std::vector<FByteView>& Parts)
+	{
+		if (Recording.Requests.empty())
+		{
+			Recording.Requests.emplace_back();
+			Current = 0;
+		}
+		FLinkFault Fault;
+		const std::optional<FPrefix> Prefix = Parts.empty() ? std::nullopt : DecodePrefix(Parts[0], Fault);
+		if (Prefix && Prefix->Frame == EFrame::Item && Parts.size() == 2)
+		{
+			Current = AnsweredBy(KindOfHeader(Parts[1]));
+		}
+		Recording.Requests[Current].Messages.push_back({Parts});
+		++Recording.MessageCount;
+		for (const FByteView Part : Parts)
+		{
+			Recording.MessageBytes += Part.size();
+		}
+	}
+
+	/** Place of the latest request that such a reply answers; the latest of all when there is none. */
+	std::size_t AnsweredBy(EItem Reply) const
+	{
+		const EItem Wanted = RequestOf(Reply);
+		for (std::size_t Place = Recording.Requests.size(); Wanted != EItem::None && Place > 0; --Place)
+		{
+			if (Recording.Requests[Place - 1].Item == Wanted)
+			{
+				return Place - 1;
+			}
+		}
+		return Recording.Requests.size() - 1;
+	}
+
+	FRecording& Recording;
+	FRecordFactory Factory;
+	FItemDecoder Decoder;
+	std::uint64_t Number = 0;
+	std::size_t Current = 0;
+};
 } // namespace
 
 TResult<FRecording> ReadRecording(const std::string& Path)
@@ -195,9 +275,10 @@ TResult<FRecording> ReadRecording(const std::string& Path)
 	FRecording Recording;
 	FRecordReader Reader(Path, *Bytes);
 	Reader.Skip(RecordingHeadBytes);
+	FRecordingBuilder Builder(Recording);
 	while (Reader.Next())
 	{
-		Take(Recording, Reader);
+		Builder.Take(Reader);
 	}
 	if (Reader.Fault)
 	{

@@ -3,6 +3,7 @@
  */
 #pragma once
 
+#include "Zef/Items.h"
 #include "Zef/Result.h"
 #include "Zef/Wire.h"
 
@@ -23,11 +24,15 @@ struct FRecordedMessage
 	std::vector<FByteView> Parts;
 };
 
-/** A request of the editor, and what came after it. */
+/** A request of the editor, and what answers it. */
 struct FRecordedRequest
 {
 	/** The item's header as it was sent; empty for what came before any request. */
 	FByteView Header;
+	/** What was asked for; None when the header is empty or cannot be read. */
+	EItem Item = EItem::None;
+	FPackingOptions Options;
+	FObjectTypeInfo Info;
 	std::vector<FRecordedMessage> Messages;
 	/** The application was lost before the next request; what it said, or the reason, is in LostReason. */
 	bool bLost = false;

@@ -6,6 +6,7 @@
 #include "ZEFRuntimeUtils.h"
 #include "ZEFTandemClientComponent.h"
 #include "protocol/LinkFixture.h"
+#include "protocol/RawPeer.h"
 
 #include <cstdlib>
 
@@ -332,6 +333,39 @@ TEST_F(ClientComponent, DropsABadMeshLogsOneErrorAndTellsIt)
 	ASSERT_EQ(Faults.Num(), 1);
 	EXPECT_TRUE(Faults[0].Contains(TEXT("/Surfaces/0/Positions/1/X")));
 	EXPECT_EQ(Connections, std::vector<bool>{true});
+}
+
+TEST_F(ClientComponent, LogsWhyTheLinkIsLostAndWhatToDo)
+{
+	Serve();
+	Application.reset();
+	ASSERT_TRUE(Until([&] { return Connections.size() == 2; }));
+	EXPECT_EQ(Log().CountContaining("The garment application was closed. Start it again when you need it"), 1);
+}
+
+TEST_F(ClientComponent, TellsTheLossInTheMiddleOfAnUpdateOnceAndTakesTheNext)
+{
+	using namespace LinkTest;
+	auto Raw = std::make_unique<FRawApplication>(Endpoint);
+	Raw->Welcome({2, "raw application", 16 << 20, 4 << 20});
+	ASSERT_TRUE(Until([&] { return Connections.size() == 1; }));
+	Client->SendData(TandemMessage::RequestUpdate, ZefTandemCore::PackingOptions());
+	const Zef::FEncodedItem Item = Zef::EncodeSurfaceMesh(Zef::EObjectType::Avatar, SampleMesh());
+	Raw->Send({Prefix(Zef::EFrame::Item, 1), Item.Header});
+	const Zef::FBytes Payload = PayloadOf(Item);
+	Raw->Send({Prefix(Zef::EFrame::Piece, 1, 0), Zef::FBytes(Payload.begin(), Payload.begin() + 100)});
+	Raw->ReceiveFrame(Zef::EFrame::Credit);
+	Raw.reset();
+	ASSERT_TRUE(Until([&] { return Connections.size() == 2; }));
+	EXPECT_EQ(Meshes.Num(), 0);
+
+	Serve();
+	Application->OnUpdate = [this](Zef::FClientId Id) {
+		Application->Server->SendUpdate(Id, {{Zef::EObjectType::Avatar, SampleMesh()}});
+	};
+	Client->SendData(TandemMessage::RequestUpdate, ZefTandemCore::PackingOptions());
+	ASSERT_TRUE(Until([&] { return Meshes.Num() == 1; }));
+	EXPECT_EQ(Connections, (std::vector<bool>{true, false, true}));
 }
 
 TEST_F(ClientComponent, ReusesTheMemoryOfAnUpdateForTheNext)
