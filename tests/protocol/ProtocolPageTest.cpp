@@ -53,10 +53,10 @@ TEST(ProtocolPage, ShowsTheBytesOfAFirstConversation)
 	const Zef::FBytes Request = Zef::EncodeAvailabilityRequest().Header;
 	const Zef::FBytes Reply = Zef::EncodeAvailability({false, true, false, true, true}).Header;
 	std::string Expected = "```\n";
-	Expected += Message("editor >", "Hello, version 1 to 1, \"editor\"", {EFrame::Hello, 0, 0},
-		Zef::EncodeHello({1, 1, "editor", 16 << 20, 4 << 20}));
-	Expected += Message("< application", "Welcome, version 1, \"application\"", {EFrame::Welcome, 0, 0},
-		Zef::EncodeWelcome({1, "application", 16 << 20, 4 << 20}));
+	Expected += Message("editor >", "Hello, version 1 to 2, \"editor\"", {EFrame::Hello, 0, 0},
+		Zef::EncodeHello({1, 2, "editor", 16 << 20, 4 << 20}));
+	Expected += Message("< application", "Welcome, version 2, \"application\"", {EFrame::Welcome, 0, 0},
+		Zef::EncodeWelcome({2, "application", 16 << 20, 4 << 20}));
 	Expected += Message("editor >", "Item 1, AvailabilityRequest", {EFrame::Item, 1, 0}, Request);
 	Expected += Message("< application", "Credit of the request's bytes", {EFrame::Credit, 0, Request.size()}, {});
 	Expected += Message("< application", "Item 1, AvailabilityReply", {EFrame::Item, 1, 0}, Reply);

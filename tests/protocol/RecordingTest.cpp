@@ -137,7 +137,6 @@ TEST_F(Recording, OfALossKeepsWhatCameBeforeAndSaysSo)
 	Raw->ReceiveFrame(EFrame::Item);
 	Raw->Send({Prefix(EFrame::Item, 1), Zef::EncodeSurfaceMesh(EObjectType::Avatar, SampleMesh()).Header});
 	Raw->ReceiveFrame(EFrame::Credit);
-	Raw->ReceiveFrame(EFrame::Credit);
 	Raw.reset();
 	ASSERT_TRUE(Until(&Editor, nullptr, [&] { return Editor.Connections.size() == 2; }));
 	EXPECT_FALSE(Editor.Client->FinishRecording());
