@@ -338,12 +338,10 @@ void FServerEndpoint::FImpl::Greet(FClient& Client, FByteView Body)
 				"; update the older of the two.");
 		return;
 	}
-	std::size_t Served = 0;
-	{
-		const std::lock_guard Lock(Mutex);
-		Served = Infos.size();
-	}
-	if (Served >= Options.Limits.MaxClients)
+	// One that is gone is listened to for a moment, and takes nobody's place.
+	const auto Served = std::ranges::count_if(
+		Clients, [](const auto& Each) { return Each.second->bGreeted && !Each.second->bClosing; });
+	if (static_cast<std::size_t>(Served) >= Options.Limits.MaxClients)
 	{
 		Refuse(Client, EFault::TooManyClients,
 			std::to_string(Served) + " editors are connected, and no more are served; close one of them.");

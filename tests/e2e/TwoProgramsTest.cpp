@@ -149,3 +149,39 @@ TEST_F(TwoPrograms, AFileThatIsNoModelEndsThePeerWithAClearError)
 	EXPECT_NE(Peer->Wait(Patience), 0);
 	EXPECT_NE(Peer->Output().find("shirt.glb"), std::string::npos) << Peer->Output();
 }
+
+TEST_F(TwoPrograms, TheDoctorSaysWhatIsRightAndWhatToDo)
+{
+	const auto Look = [&]
+	{
+		FProgram Doctor({ZEF_TANDEM_PROGRAM, "doctor", "--endpoint", Endpoint()}, Path("doctor.log"));
+		const int Status = Doctor.Wait(Patience);
+		return std::pair(Status, Doctor.Output());
+	};
+	const auto [Before, Nobody] = Look();
+	EXPECT_EQ(Before, 1);
+	EXPECT_NE(Nobody.find("WRONG  socket"), std::string::npos) << Nobody;
+	EXPECT_NE(Nobody.find("zef-peer serve"), std::string::npos) << Nobody;
+
+	const std::unique_ptr<FProgram> Peer = StartReadyPeer();
+	const auto [Status, Lines] = Look();
+	EXPECT_EQ(Status, 0) << Lines;
+	EXPECT_EQ(Lines.find("WRONG"), std::string::npos) << Lines;
+	EXPECT_NE(Lines.find("ok     version   both speak protocol version 2"), std::string::npos) << Lines;
+}
+
+TEST_F(TwoPrograms, ARecordingIsServedAgain)
+{
+	{
+		const std::unique_ptr<FProgram> Peer = StartReadyPeer();
+		FProgram Recorder(
+			{ZEF_TANDEM_PROGRAM, "record", Path("case.ztlr").string(), "--endpoint", Endpoint()}, Path("record.log"));
+		ASSERT_EQ(Recorder.Wait(Patience), 0) << Recorder.Output();
+		EXPECT_NE(Recorder.Output().find("4 objects"), std::string::npos) << Recorder.Output();
+	}
+	const FProgram Replay(
+		{ZEF_PEER_PROGRAM, "replay", Path("case.ztlr").string(), "--endpoint", Endpoint()}, Path("replay.log"));
+	const std::unique_ptr<FProgram> Editor = StartEditor();
+	ASSERT_EQ(Editor->Wait(Patience), 0) << Editor->Output() << Replay.Output();
+	ExpectWholeProject(Editor->Output());
+}

@@ -43,10 +43,10 @@ TEST(PeerProgram, TellsAllItsCommandsAndOptions)
 	const FOutcome Help = RunPeer("--help-all");
 
 	EXPECT_EQ(Help.Status, 0);
-	for (const char* Name :
-		{"serve", "check", "info", "--garment", "--avatar", "--outfit", "--prop", "--sample", "--channel", "--endpoint",
-			"--save-dir", "--ready-file", "--exit-after", "--once", "--quiet", "--as", "conformance", "--set", "--only",
-			"--with", "--patience", "--exact-words", "--list", "faults", "--markdown"})
+	for (const char* Name : {"serve", "check", "info", "replay", "keys", "--keys", "--garment", "--avatar", "--outfit",
+			 "--prop", "--sample", "--channel", "--endpoint", "--save-dir", "--ready-file", "--exit-after", "--once",
+			 "--quiet", "--as", "conformance", "--set", "--only", "--with", "--patience", "--exact-words", "--list",
+			 "faults", "--markdown"})
 	{
 		EXPECT_THAT(Help.Output, HasSubstr(Name));
 	}
@@ -78,6 +78,32 @@ TEST(PeerProgram, NamesTheFileThatItCannotServe)
 
 	EXPECT_NE(Outcome.Status, 0);
 	EXPECT_THAT(Outcome.Output, HasSubstr("/nowhere/shirt.glb"));
+}
+
+TEST(PeerProgram, SaysWhyAFileIsNoRecording)
+{
+	const FOutcome Outcome = RunPeer("replay /nowhere/case.ztlr");
+
+	EXPECT_EQ(Outcome.Status, 1);
+	EXPECT_THAT(Outcome.Output, HasSubstr("BadRecording"));
+	EXPECT_THAT(Outcome.Output, HasSubstr("/nowhere/case.ztlr"));
+}
+
+TEST(PeerProgram, MakesAPairOfKeysOnceAndServesOthersWithThemAlone)
+{
+	const std::string Name = testing::TempDir() + "zef-peer-keys-" + std::to_string(getpid());
+	const FOutcome Made = RunPeer("keys " + Name);
+	EXPECT_EQ(Made.Status, 0);
+	EXPECT_THAT(Made.Output, HasSubstr(Name + ".editor.keys"));
+	const FOutcome Again = RunPeer("keys " + Name);
+	EXPECT_EQ(Again.Status, 1);
+	EXPECT_THAT(Again.Output, HasSubstr("there already"));
+
+	const FOutcome Wrong = RunPeer("serve --endpoint tcp://0.0.0.0:* --keys " + Name + ".editor.keys");
+	EXPECT_EQ(Wrong.Status, 1);
+	EXPECT_THAT(Wrong.Output, HasSubstr("needs the file of the application"));
+	std::remove((Name + ".application.keys").c_str());
+	std::remove((Name + ".editor.keys").c_str());
 }
 
 TEST(PeerProgram, RefusesAnEndpointThatIsNotLocal)

@@ -304,26 +304,4 @@ TEST(Survival, OfAnApplicationThatFloods)
 	EXPECT_EQ(Editor.Client->Status().Reason.Kind, Zef::ELinkReason::PeerMisbehaved);
 	ExpectTheNextUpdateWorks(Folder, Editor);
 }
-
-TEST(Survival, OfAnApplicationThatOverrunsTheWindow)
-{
-	const FTestFolder Folder;
-	auto Application = std::make_unique<FRawApplication>(Folder.Socket());
-	Zef::FClientOptions Options = QuickClient();
-	Options.Limits.WindowBytes = 4096;
-	Options.Limits.MaxItemBytes = 1 << 20;
-	FEditor Editor(Folder.Socket(), Options);
-	Application->Welcome();
-	// Far more than the window at once, each message within its limits; nothing is polled meanwhile.
-	const Zef::FEncodedItem Item = Zef::EncodeSurfaceMesh(EObjectType::Garment, StripMesh(10'000));
-	for (std::uint64_t Number = 1; Number <= 20; ++Number)
-	{
-		Application->SendItem(Item, Number, 2048);
-	}
-	ASSERT_TRUE(Until(&Editor, nullptr, [&] { return Editor.Connections.size() == 2; }));
-	Application.reset();
-	EXPECT_EQ(Editor.Connections, (std::vector<bool>{true, false}));
-	EXPECT_EQ(Editor.Faults.back().Code, EFault::WindowOverrun);
-	ExpectTheNextUpdateWorks(Folder, Editor);
-}
 } // namespace
