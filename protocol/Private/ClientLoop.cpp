@@ -353,7 +353,11 @@ void FClientEndpoint::FImpl::ReceiveAll()
 		}
 		Receive(Parts, bTooManyParts);
 	}
-	Waker.Wake();
+	if (Dealer)
+	{
+		// More may be waiting; requests get their turn first.
+		Waker.Wake();
+	}
 }
 
 void FClientEndpoint::FImpl::Receive(std::vector<zmq::message_t>& Parts, bool bTooManyParts)
