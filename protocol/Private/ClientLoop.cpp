@@ -335,10 +335,19 @@ void FClientEndpoint::FImpl::OnTransportDown(const FLinkReason& Reason)
 	PhaseDeadline = bWasUp ? FClock::time_point::max() : FClock::now() + Options.RetryTime;
 }
 
-/** Whether the peer waits for credit; one that is gone is listened to up to its last word. */
+/**
+ * Whether the peer waits for credit that it can have. Nothing more is taken before it is given, so none may be owed
+ * while it is held back: the connection would stand still, heartbeats included. One that is gone is listened to up to
+ * its last word.
+ */
 bool FClientEndpoint::FImpl::MustCredit() const
 {
-	return Session && !bDisconnected && Session->OwesCredit();
+	if (!Session || bDisconnected || !Session->OwesCredit())
+	{
+		return false;
+	}
+	const std::lock_guard Lock(Mutex);
+	return !IsBehind();
 }
 
 void FClientEndpoint::FImpl::ReceiveAll()

@@ -304,4 +304,28 @@ TEST(Survival, OfAnApplicationThatFloods)
 	EXPECT_EQ(Editor.Client->Status().Reason.Kind, Zef::ELinkReason::PeerMisbehaved);
 	ExpectTheNextUpdateWorks(Folder, Editor);
 }
+
+TEST(Survival, OfAnApplicationThatOverrunsTheWindow)
+{
+	const FTestFolder Folder;
+	auto Application = std::make_unique<FRawApplication>(Folder.Socket());
+	Zef::FClientOptions Options = QuickClient();
+	Options.Limits.WindowBytes = 4096;
+	// What waits for the program is more than this soon, and then no credit is given.
+	Options.Limits.MaxItemBytes = 4000;
+	FEditor Editor(Folder.Socket(), Options);
+	Application->Welcome();
+	for (std::uint64_t Number = 1; Number <= 500; ++Number)
+	{
+		Application->SendItem(Zef::EncodeAvailability({}), Number);
+	}
+	// Nothing is polled before the connection is gone: polling gives credit.
+	Application->ReceiveFrame(EFrame::Hello);
+	ASSERT_TRUE(Until(&Editor, nullptr, [&] { return Editor.Connections.size() == 2; }));
+	Application.reset();
+	EXPECT_EQ(Editor.Connections, (std::vector<bool>{true, false}));
+	ASSERT_FALSE(Editor.Faults.empty()) << Editor.Reasons[1];
+	EXPECT_EQ(Editor.Faults.back().Code, EFault::WindowOverrun);
+	ExpectTheNextUpdateWorks(Folder, Editor);
+}
 } // namespace
