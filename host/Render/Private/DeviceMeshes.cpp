@@ -221,6 +221,7 @@ void FDeviceMeshes::Show(
 			}
 			FDrawnSection Section = Take(Geometry);
 			Section.bTranslucent = Material->Blend == EBlend::Translucent;
+			Section.bSelected = Object.bSelected;
 			Section.Placement = Object.Placement;
 			for (FSurfaceMapper* Mapper : {Section.Mapper.Get(), Section.DepthMapper.Get()})
 			{
@@ -267,6 +268,12 @@ bool FDeviceMeshes::HasTranslucentIn(const FClipMatrix& View) const
 		}
 	}
 	return false;
+}
+
+bool FDeviceMeshes::HasSelected() const
+{
+	return std::any_of(
+		Sections.begin(), Sections.end(), [](const FDrawnSection& Section) { return Section.bSelected; });
 }
 
 void FDeviceMeshes::Clear(vtkRenderer& Renderer)

@@ -27,6 +27,7 @@ struct FDrawnSection
 	vtkSmartPointer<FSurfaceMapper> DepthMapper;
 	vtkSmartPointer<vtkActor> Actor;
 	bool bTranslucent = false;
+	bool bSelected = false;
 	FPlacement Placement;
 };
 
@@ -44,6 +45,7 @@ public:
 	const std::vector<FDrawnSection>& Drawn() const { return Sections; }
 	/** Whether the box around anything translucent reaches into the view. */
 	bool HasTranslucentIn(const FClipMatrix& View) const;
+	bool HasSelected() const;
 
 	void Clear(vtkRenderer& Renderer);
 

@@ -46,7 +46,8 @@ void SetFrameUniforms(vtkShaderProgram& Program, const FFrameState& Frame)
 	Program.SetUniform2f("uPixelSize", PixelSize);
 	Program.SetUniformi("uShadowMap", Shadows->GetTextureUnit());
 	Program.SetUniformi("uOcclusion", Occlusion->GetTextureUnit());
-	Program.SetUniformi("uForLamp", Frame.Pass == ERenderPass::Shadow);
+	Program.SetUniformi("uForLamp", Frame.Pass == ERenderPass::Shadow || Frame.Pass == ERenderPass::Selected);
+	Program.SetUniformi("uWhole", Frame.Pass == ERenderPass::Selected);
 }
 
 } // namespace Host

@@ -13,7 +13,8 @@ enum class ERenderPass : int
 {
 	Color = 0,
 	Depth = 1,
-	Shadow = 2
+	Shadow = 2,
+	Selected = 3 // depths of whole surfaces, whatever light they let through
 };
 
 /** What all programs of one picture are told. Textures are not owned. */

@@ -159,9 +159,14 @@ void LookAtScene(FSceneSnapshot& Scene, float Pitch, float Yaw, float Horizontal
 
 void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera)
 {
+	LookAtSceneFrom(Scene, Camera, BoundsOf(Scene.Objects));
+}
+
+void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera, const FSceneBounds& Bounds)
+{
 	Scene.Camera = Camera;
 	Scene.Lights = StudioLights(Camera);
-	PlaceFloor(Scene.Surroundings, BoundsOf(Scene.Objects));
+	PlaceFloor(Scene.Surroundings, Bounds);
 }
 
 FClipMatrix ViewProjection(const FCameraSnapshot& Camera, float Aspect, float Near, float Far)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Host/SceneRenderer.h"
 
+#include "Host/BoundsMemory.h"
+
 #include "DeviceMeshes.h"
 #include "DeviceTextures.h"
 #include "EglContext.h"
@@ -8,6 +10,7 @@
 #include "OffscreenWindow.h"
 #include "Resample.h"
 #include "ScreenPasses.h"
+#include "SelectionOutline.h"
 #include "Shaders.h"
 #include "VectorMath.h"
 
@@ -83,6 +86,8 @@ struct FSceneRenderer::FImpl
 	FPassTarget OcclusionTarget{FPassTarget::EKind::Value};
 	FScreenProgram OcclusionProgram;
 	FScreenProgram BlurProgram;
+	FSelectionOutline Outline;
+	FBoundsMemory BoundsMemory;
 	std::string Device;
 
 	bool Open(std::string& OutError);
@@ -92,6 +97,7 @@ struct FSceneRenderer::FImpl
 	bool DrawOcclusion(const FSceneSnapshot& Scene, const FSceneBounds& Bounds, int Width, int Height, float Near,
 		float Far, bool bBackdrop);
 	void DrawDepths(ERenderPass Pass, const FClipMatrix& View);
+	void DrawSelected();
 	FImage ReadPicture(int Width, int Height, int Scale, bool bCovered);
 };
 
@@ -148,6 +154,7 @@ void FSceneRenderer::FImpl::Close()
 	}
 	OcclusionProgram.ReleaseGraphicsResources(*Window);
 	BlurProgram.ReleaseGraphicsResources(*Window);
+	Outline.ReleaseGraphicsResources(*Window);
 	Backdrop->ReleaseGraphicsResources(Window);
 	if (White)
 	{
@@ -172,6 +179,19 @@ void FSceneRenderer::FImpl::DrawDepths(ERenderPass Pass, const FClipMatrix& View
 	}
 	Frame.Pass = ERenderPass::Color;
 	Frame.ViewProjection = Saved;
+}
+
+void FSceneRenderer::FImpl::DrawSelected()
+{
+	Frame.Pass = ERenderPass::Selected;
+	for (const FDrawnSection& Section : Meshes.Drawn())
+	{
+		if (Section.bSelected)
+		{
+			Section.DepthMapper->RenderPiece(Renderer, Section.Actor);
+		}
+	}
+	Frame.Pass = ERenderPass::Color;
 }
 
 bool FSceneRenderer::FImpl::DrawShadows(const FSceneBounds& Bounds)
@@ -287,7 +307,7 @@ FRenderResult FSceneRenderer::FImpl::Render(
 					  " pixels that the device draws; ask for less or for less supersampling");
 	}
 
-	FSceneBounds Bounds = BoundsOf(Scene.Objects);
+	const FSceneBounds Bounds = BoundsMemory.Of(Scene.Objects);
 	const float Aspect = float(Width) / float(Height);
 	const FCameraSnapshot& Camera = Scene.Camera;
 	const float Distance = Length(Bounds.Center() - Camera.Location);
@@ -351,6 +371,12 @@ FRenderResult FSceneRenderer::FImpl::Render(
 		}
 	}
 	Window->Render();
+	if (Options.OutlineThickness > 0.0f && Meshes.HasSelected())
+	{
+		Outline.Draw(
+			*Window, [this] { DrawSelected(); }, Width * Scale, Height * Scale, Options.OutlineThickness * float(Scale),
+			Scene.OutlineColor);
+	}
 	FRenderResult Result;
 	Result.Image = ReadPicture(Width, Height, Scale, Options.bBackdrop);
 	for (vtkTextureObject* Texture : {Frame.ShadowMap, Frame.Occlusion, Frame.White})

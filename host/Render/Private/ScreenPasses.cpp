@@ -160,6 +160,7 @@ void FBackdrop::Draw(vtkOpenGLRenderWindow& Window, bool bDepthOnly)
 	Shader->SetUniformf("uFloorRadius", Surroundings.FloorRadius);
 	Shader->SetUniformi("uFloor", Surroundings.bFloor);
 	Shader->SetUniformf("uGridSpacing", Surroundings.bGrid ? Surroundings.GridSpacing : 0.0f);
+	Shader->SetUniformf("uGridHalfSize", Surroundings.GridHalfSize);
 	Shader->SetUniformi("uDepthOnly", bDepthOnly);
 	vtkOpenGLState& State = *Window.GetState();
 	State.vtkglEnable(GL_DEPTH_TEST);

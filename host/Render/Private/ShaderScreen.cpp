@@ -21,6 +21,7 @@ uniform vec3 uFloorColor;
 uniform float uFloorRadius;
 uniform int uFloor;
 uniform float uGridSpacing;  // 0 without a grid
+uniform float uGridHalfSize;
 uniform int uDepthOnly;
 )glsl";
 
@@ -76,7 +77,12 @@ void main()
 		{
 			vec2 cell = at.xy / uGridSpacing;
 			vec2 width = fwidth(cell);
-			ground *= 1.0 - 0.16 * gridLine(cell, width);
+			float line = 0.12 * gridLine(cell, width);
+			line = max(line, 0.24 * gridLine(cell / 8.0, width / 8.0));
+			vec2 axis = 1.0 - smoothstep(vec2(0.0), width * 2.0, abs(cell));
+			line = max(line, 0.45 * max(axis.x, axis.y));
+			float inside = step(max(abs(at.x), abs(at.y)), uGridHalfSize + uGridSpacing * 0.05);
+			ground *= 1.0 - line * inside;
 		}
 		float fade = smoothstep(0.25, 0.95, away);
 		color = mix(ground, backdrop * mix(vec3(1.0), lit, 1.0 - fade), fade);
@@ -191,6 +197,30 @@ void main()
 	}
 	float open = sum / weight;
 	gl_FragData[0] = vec4(open, open, open, 1.0);
+}
+)glsl";
+
+const char* const OutlineFragment = R"glsl(//VTK::System::Dec
+//VTK::Output::Dec
+in vec2 texCoord;
+
+uniform sampler2D uDepth;
+uniform vec2 uStep;   // the line's thickness, in parts of the picture
+uniform vec3 uColor;  // as it is shown
+
+void main()
+{
+	// 1.0 is what nothing covers.
+	bool inside = textureLod(uDepth, texCoord, 0.0).r < 1.0;
+	float covered = 0.0;
+	const int Directions = 16;
+	for (int i = 0; i < Directions; ++i)
+	{
+		float angle = 6.2831853 * float(i) / float(Directions);
+		covered += textureLod(uDepth, texCoord + vec2(cos(angle), sin(angle)) * uStep, 0.0).r < 1.0 ? 1.0 : 0.0;
+	}
+	float line = inside ? 0.0 : smoothstep(0.0, 3.0, covered);
+	gl_FragData[0] = vec4(uColor, line);
 }
 )glsl";
 

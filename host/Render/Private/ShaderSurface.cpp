@@ -51,6 +51,7 @@ const int BlendMasked = 1;
 const int BlendTranslucent = 2;
 
 uniform int uForLamp;         // 1 while the lamp's depths are drawn
+uniform int uWhole;           // 1 while clear surfaces count as solid ones
 uniform int uBlend;
 uniform int uTwoSided;
 uniform int uOpacityFromAlpha;
@@ -206,7 +207,7 @@ void main()
 		discard;
 	}
 	// What lets light through throws a thinner shadow: only so many points of it.
-	if (uBlend == BlendTranslucent && pixelNoise(gl_FragCoord.xy) > opacity)
+	if (uBlend == BlendTranslucent && uWhole == 0 && pixelNoise(gl_FragCoord.xy) > opacity)
 	{
 		discard;
 	}

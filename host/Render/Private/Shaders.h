@@ -19,6 +19,9 @@ std::string BackdropFragment();
 extern const char* const OcclusionFragment;
 extern const char* const OcclusionBlurFragment;
 
+/** A line around what a picture of depths shows. */
+extern const char* const OutlineFragment;
+
 // Parts that several programs share.
 extern const char* const FrameDeclarations;
 extern const char* const ToneCurve;

@@ -61,6 +61,9 @@ void LookAtScene(FSceneSnapshot& Scene, float Pitch, float Yaw, float Horizontal
 /** Sets camera, lights and floor of a scene for a view that somebody has chosen. */
 void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera);
 
+/** The same with the box around the scene's objects, for who knows it. */
+void LookAtSceneFrom(FSceneSnapshot& Scene, const FCameraSnapshot& Camera, const FSceneBounds& Bounds);
+
 /** A 4 x 4 matrix by columns, as OpenGL takes it: clip = M * (x, y, z, 1). */
 using FClipMatrix = std::array<float, 16>;
 

@@ -18,6 +18,8 @@ struct FRenderOptions
 	bool bAmbientOcclusion = true;
 	/** Layers of translucency that are told apart, front and back counted in pairs. */
 	int32_t TranslucentLayers = 12;
+	/** Pixels of the picture of the line around what is selected; 0 for none. */
+	float OutlineThickness = 2.0f;
 	/** Off: the backdrop and the floor are left out and what no surface covers has alpha 0. */
 	bool bBackdrop = true;
 };

@@ -126,6 +126,7 @@ struct FObjectSnapshot
 	std::shared_ptr<const FMeshSnapshot> Mesh;
 	FPlacement Placement;
 	std::vector<std::shared_ptr<const FMaterialSnapshot>> Materials; // by slot; null draws the default material
+	bool bSelected = false;											 // has a line around it
 };
 
 /** A large soft light far away. The first one of a scene casts the shadow. */
@@ -147,8 +148,10 @@ struct FSurroundings
 	FFloat3 FloorPoint; // a point of the level floor, under the middle of the scene
 	float FloorRadius = 400.0f;
 	FFloat3 FloorColor{0.62f, 0.61f, 0.60f};
+	/** Lines on the floor, along the axes: every eighth is stronger, and those through the origin are the strongest. */
 	bool bGrid = false;
 	float GridSpacing = 50.0f;
+	float GridHalfSize = 2048.0f; // from the origin
 };
 
 /** A perspective view. The axes are unit vectors at right angles, left-handed like the scene. */
@@ -168,6 +171,8 @@ struct FSceneSnapshot
 	FSurroundings Surroundings;
 	FCameraSnapshot Camera;
 	float Exposure = 1.0f; // factor on all light before the tone curve
+	/** Of the line around what is selected, as it is shown. */
+	FFloat3 OutlineColor{1.0f, 0.62f, 0.0f};
 };
 
 } // namespace Host
