@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 /** The editor as a program. */
+#ifdef ZEF_WITH_DESKTOP
+#include "Host/Desktop.h"
+#endif
 #include "Host/EditorScript.h"
 #include "Host/HeadlessEditor.h"
 #include "Host/UpdateReport.h"
@@ -41,6 +44,34 @@ struct FUpdateCommand
 	Host::FPictureOptions Picture;
 	int Repeat = 1;
 };
+
+/** The editor in windows, until the user closes it. */
+int RunWindows(int ArgumentCount, char** Arguments, const Host::FHeadlessOptions& Editor)
+{
+#ifdef ZEF_WITH_DESKTOP
+	std::string Error = Host::WhyNoDisplay();
+	if (Error.empty())
+	{
+		Host::FDesktopOptions Options;
+		Options.Project = Editor.Project;
+		Options.Plugin = Editor.Plugin;
+		Options.Endpoint = Editor.Endpoint;
+		Options.bVerbose = Editor.bVerbose;
+		Error = Host::RunDesktop(ArgumentCount, Arguments, Options);
+	}
+#else
+	(void)ArgumentCount;
+	(void)Arguments;
+	(void)Editor;
+	const std::string Error = "this program was built without the desktop; use --headless update";
+#endif
+	if (!Error.empty())
+	{
+		fmt::print(stderr, "zef-tandem: {}\n", Error);
+		return ExitFailure;
+	}
+	return EXIT_SUCCESS;
+}
 
 /** Picture, table and counts of one or several updates in one editor. */
 int RunUpdate(const FUpdateCommand& Command)
@@ -85,7 +116,8 @@ int RunUpdate(const FUpdateCommand& Command)
 
 int main(int ArgumentCount, char** Arguments)
 {
-	CLI::App App("The editor of ZEF/KR Tandem without the engine.", "zef-tandem");
+	CLI::App App(
+		"The editor of ZEF/KR Tandem without the engine. Without a command it opens its window.", "zef-tandem");
 	App.set_version_flag("--version", ZEF_VERSION);
 	App.require_subcommand(0, 1);
 
@@ -94,7 +126,7 @@ int main(int ArgumentCount, char** Arguments)
 	Command.Editor.Project = std::filesystem::current_path() / "ZEFTandemProject";
 	bool bHeadless = false;
 	App.add_flag(
-		"--headless", bHeadless, "Work without a display. It is the only way so far, and so also the default.");
+		"--headless", bHeadless, "Work without a display; needs a command, and is what the commands do in any case.");
 	App.fallthrough();
 	App.add_option("--project", Command.Editor.Project, "Project folder; made when it is not there")
 		->capture_default_str();
@@ -178,12 +210,16 @@ int main(int ArgumentCount, char** Arguments)
 		}
 		return RunScript(Command.Editor, Script);
 	}
-	if (!Update->parsed())
+	if (Update->parsed())
+	{
+		return RunUpdate(Command);
+	}
+	if (bHeadless)
 	{
 		fmt::print(stderr,
 			"zef-tandem: what is to be done? Give a command, for instance: zef-tandem --headless update, "
 			"or a script: zef-tandem --headless --script FILE\n");
 		return ExitFailure;
 	}
-	return RunUpdate(Command);
+	return RunWindows(ArgumentCount, Arguments, Command.Editor);
 }

@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+#include "Host/Desktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+
+#include "ConsoleServices.h"
+#include "Dialogs.h"
+#include "FrameLoop.h"
+#include "Pictures.h"
+#include "Theme.h"
+#include "ViewWorld.h"
+#include "WindowFrames.h"
+
+#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
+#include "Editor/ZEFTandemEditor.h"
+#include "Editor/ZEFTandemEditorCommands.h"
+#include "Editor/ZEFTandemEditorModule.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/Docking/TabManager.h"
+#include "Framework/MultiBox/MultiBoxBuilder.h"
+#include "Host/EditorSession.h"
+#include "Widgets/SBoxPanel.h"
+#include "Modules/ModuleManager.h"
+#include "Zef/LinkWatch.h"
+
+namespace Host
+{
+
+class FDesktop::FImpl
+{
+public:
+	explicit FImpl(const FDesktopOptions& InOptions)
+		: Options(InOptions)
+		, ConsoleLog(InOptions.bVerbose)
+		, World([this] { Loop.Wake(); })
+		, Windows(World, Dialogs)
+	{
+		QObject::connect(qApp, &QApplication::focusChanged, &Loop, [this](QWidget*, QWidget* Now) { TakeFocus(Now); });
+	}
+
+	~FImpl()
+	{
+		Zef::SetLinkListener(nullptr);
+		bEnding = true;
+		if (const TSharedPtr<SWindow> Main = MainModel.Pin())
+		{
+			Main->RequestDestroyWindow();
+		}
+		Session.End();
+		World.ClearGraveyard();
+	}
+
+	std::string Start()
+	{
+		std::string Error = Session.Start({Options.Project, Options.Plugin, Options.Endpoint});
+		if (!Error.empty())
+		{
+			return Error;
+		}
+		Zef::SetLinkListener([this] { Loop.Wake(); });
+		OpenMainWindow();
+		Loop.RunFrame();
+		return {};
+	}
+
+	FWindowFrame* MainFrame() const { return Windows.FrameOf(MainModel.Pin()); }
+
+	/** One frame. @return whether the next one is wanted without a pause */
+	bool Frame(double Seconds)
+	{
+		if (bEnding)
+		{
+			return false;
+		}
+		const bool bNested = bInFrame || Dialogs.IsOpen() || Windows.IsModal();
+		if (bNested)
+		{
+			// Somebody waits for an answer: the windows go on, the world stands still.
+			if (World.HasAsked())
+			{
+				Dialogs.DismissAll();
+			}
+			if (FSlateApplication::IsInitialized())
+			{
+				FSlateApplication::Get().Tick();
+			}
+			Windows.Follow();
+			return World.Pictures->Advance();
+		}
+		bInFrame = true;
+		for (const std::function<void()>& Asked : World.TakeAsked())
+		{
+			Asked();
+		}
+		Session.Engine().Tick(Seconds);
+		FollowFocus();
+		Windows.Follow();
+		bool bMoving = World.Pictures->Advance();
+		bInFrame = false;
+		World.ClearGraveyard();
+		if (!MainFrame())
+		{
+			RunLoop.quit();
+		}
+		return bMoving;
+	}
+
+	FDesktopOptions Options;
+	FConsoleLog ConsoleLog;
+	QEventLoop RunLoop;
+	FFrameLoop Loop{[this](double Seconds) { return Frame(Seconds); }};
+	FDialogWindows Dialogs;
+	FViewWorld World;
+	FWindowFrames Windows;
+	FEditorSession Session;
+	TWeakPtr<SWindow> MainModel;
+	TSharedPtr<FZEFTandemEditor> Editor;
+
+private:
+	/** A window with the tandem editor's commands and view. */
+	void OpenMainWindow()
+	{
+		FZEFTandemEditorModule& Module =
+			FModuleManager::LoadModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
+		Editor = StaticCastSharedPtr<FZEFTandemEditor>(Module.CreateEditor());
+		const FZEFTandemEditorCommands& Commands = FZEFTandemEditorCommands::Get();
+		FToolBarBuilder Bar(Editor->GetToolkitCommands(), FMultiBoxCustomization::None);
+		Bar.AddToolBarButton(Commands.Update);
+		Bar.AddToolBarButton(Commands.SetUnifiedMaterial);
+		Bar.AddToolBarButton(Commands.FocusCamera);
+		const TSharedRef<SWindow> Window =
+			SNew(SWindow)
+				.Title(Editor->GetToolkitName())
+				.ClientSize(FVector2D(
+					1280.0, 800.0))[SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Bar.MakeWidget()] +
+									SVerticalBox::Slot().FillHeight(1.0f)[Editor->GetViewport().ToSharedRef()]];
+		Window->SetOnWindowClosed(
+			FOnWindowClosed::CreateLambda([this](const TSharedRef<SWindow>&) { Editor.Reset(); }));
+		MainModel = Window;
+		FSlateApplication::Get().AddWindow(Window);
+	}
+
+	/** The native focus went elsewhere: the model's follows. */
+	void TakeFocus(QWidget* Native)
+	{
+		if (bMovingFocus || bEnding || !Native || !FSlateApplication::IsInitialized())
+		{
+			return;
+		}
+		if (const FWidgetView* const View = World.ViewAt(Native))
+		{
+			if (const TSharedPtr<SWidget> Model = View->Model())
+			{
+				FSlateApplication::Get().SetKeyboardFocus(Model, EFocusCause::Mouse);
+				LastFocus = FSlateApplication::Get().GetKeyboardFocusedWidget();
+			}
+		}
+	}
+
+	/** The model's focus went elsewhere: the native one follows. */
+	void FollowFocus()
+	{
+		const TSharedPtr<SWidget> Now = FSlateApplication::Get().GetKeyboardFocusedWidget();
+		if (Now == LastFocus.Pin())
+		{
+			return;
+		}
+		LastFocus = Now;
+		const FWidgetView* const View = Now.IsValid() ? World.ViewOf(*Now) : nullptr;
+		if (View && View->Native() && !View->Native()->hasFocus())
+		{
+			bMovingFocus = true;
+			View->Native()->setFocus(Qt::OtherFocusReason);
+			bMovingFocus = false;
+		}
+	}
+
+	TWeakPtr<SWidget> LastFocus;
+	bool bInFrame = false;
+	bool bMovingFocus = false;
+	bool bEnding = false;
+};
+
+FDesktop::FDesktop(std::unique_ptr<FImpl> InImpl)
+	: Impl(std::move(InImpl))
+{
+}
+
+FDesktop::~FDesktop() = default;
+
+std::unique_ptr<FDesktop> FDesktop::Open(const FDesktopOptions& Options, std::string& OutError)
+{
+	auto NewImpl = std::make_unique<FImpl>(Options);
+	OutError = NewImpl->Start();
+	return OutError.empty() ? std::unique_ptr<FDesktop>(new FDesktop(std::move(NewImpl))) : nullptr;
+}
+
+void FDesktop::Run()
+{
+	if (IsOpen())
+	{
+		Impl->RunLoop.exec();
+	}
+}
+
+bool FDesktop::IsOpen() const
+{
+	return Impl->MainFrame() != nullptr;
+}
+
+QWidget* FDesktop::MainWindow() const
+{
+	return Impl->MainFrame();
+}
+
+void FDesktop::RunFrame()
+{
+	Impl->Loop.RunFrame();
+}
+
+std::uint64_t FDesktop::FrameCount() const
+{
+	return Impl->Loop.FrameCount();
+}
+
+std::string RunDesktop(int ArgumentCount, char** Arguments, const FDesktopOptions& Options)
+{
+	QApplication Application(ArgumentCount, Arguments);
+	QApplication::setApplicationDisplayName("ZEF/KR Tandem");
+	QApplication::setDesktopFileName("zef-tandem");
+	QApplication::setQuitOnLastWindowClosed(false);
+	ApplyTheme(Application);
+	std::string Error;
+	const std::unique_ptr<FDesktop> Desktop = FDesktop::Open(Options, Error);
+	if (Desktop)
+	{
+		Desktop->Run();
+	}
+	return Error;
+}
+
+} // namespace Host

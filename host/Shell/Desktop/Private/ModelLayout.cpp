@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "ModelLayout.h"
+
+#include <QWidget>
+
+#include <algorithm>
+
+namespace Host
+{
+
+namespace
+{
+
+/** The part of `From .. From + Length` that an item gets that wants `Wanted`. */
+std::pair<int, int> Span(EPlaceAlign Align, int From, int Length, int Wanted)
+{
+	const int Size = Align == EPlaceAlign::Fill ? Length : std::min(Length, Wanted);
+	const int Rest = Length - Size;
+	switch (Align)
+	{
+		case EPlaceAlign::Center:
+			return {From + Rest / 2, Size};
+		case EPlaceAlign::End:
+			return {From + Rest, Size};
+		default:
+			return {From, Size};
+	}
+}
+
+QRect PlaceIn(const QRect& Cell, const FPlace& Place, const QLayoutItem& Item)
+{
+	const QRect Inside = Cell.marginsRemoved(Place.Padding);
+	const QSize Wanted = Item.sizeHint();
+	const auto [X, Width] = Span(Place.Horizontal, Inside.x(), std::max(0, Inside.width()), Wanted.width());
+	const auto [Y, Height] = Span(Place.Vertical, Inside.y(), std::max(0, Inside.height()), Wanted.height());
+	return QRect(X, Y, Width, Height);
+}
+
+} // namespace
+
+FModelLayout::FModelLayout(EPanelKind InKind)
+	: Kind(InKind)
+{
+	setContentsMargins(0, 0, 0, 0);
+}
+
+FModelLayout::~FModelLayout()
+{
+	Clear();
+}
+
+void FModelLayout::Add(QWidget* Widget, const FPlace& Place)
+{
+	addChildWidget(Widget);
+	Entries.push_back({new QWidgetItem(Widget), Place});
+	if (Kind == EPanelKind::Stack)
+	{
+		Widget->raise();
+	}
+	invalidate();
+}
+
+void FModelLayout::Clear()
+{
+	for (const FEntry& Entry : Entries)
+	{
+		delete Entry.Item;
+	}
+	Entries.clear();
+	invalidate();
+}
+
+void FModelLayout::SetPlace(int Index, const FPlace& Place)
+{
+	FEntry& Entry = Entries[static_cast<std::size_t>(Index)];
+	if (!(Entry.Place == Place))
+	{
+		Entry.Place = Place;
+		invalidate();
+	}
+}
+
+void FModelLayout::addItem(QLayoutItem* Item)
+{
+	Entries.push_back({Item, FPlace()});
+}
+
+QLayoutItem* FModelLayout::itemAt(int Index) const
+{
+	return Index >= 0 && Index < count() ? Entries[static_cast<std::size_t>(Index)].Item : nullptr;
+}
+
+QLayoutItem* FModelLayout::takeAt(int Index)
+{
+	QLayoutItem* const Item = itemAt(Index);
+	if (Item)
+	{
+		Entries.erase(Entries.begin() + Index);
+	}
+	return Item;
+}
+
+QSize FModelLayout::Total(QSize (QLayoutItem::*SizeOf)() const) const
+{
+	QSize Sum(0, 0);
+	QSize Largest(0, 0);
+	for (const FEntry& Entry : Entries)
+	{
+		if (Entry.Item->isEmpty())
+		{
+			continue;
+		}
+		const QMargins& Padding = Entry.Place.Padding;
+		const QSize Size = (Entry.Item->*SizeOf)().expandedTo(QSize(0, 0)) +
+						   QSize(Padding.left() + Padding.right(), Padding.top() + Padding.bottom());
+		Sum += Size;
+		Largest = Largest.expandedTo(Size);
+	}
+	switch (Kind)
+	{
+		case EPanelKind::Row:
+			return QSize(Sum.width(), Largest.height());
+		case EPanelKind::Column:
+			return QSize(Largest.width(), Sum.height());
+		default:
+			return Largest;
+	}
+}
+
+QSize FModelLayout::sizeHint() const
+{
+	return Total(&QLayoutItem::sizeHint);
+}
+
+QSize FModelLayout::minimumSize() const
+{
+	return Total(&QLayoutItem::minimumSize);
+}
+
+void FModelLayout::setGeometry(const QRect& Rect)
+{
+	QLayout::setGeometry(Rect);
+	if (Kind == EPanelKind::Stack)
+	{
+		for (const FEntry& Entry : Entries)
+		{
+			if (!Entry.Item->isEmpty())
+			{
+				Entry.Item->setGeometry(PlaceIn(Rect, Entry.Place, *Entry.Item));
+			}
+		}
+		return;
+	}
+	const bool bRow = Kind == EPanelKind::Row;
+	const auto Along = [bRow](const QSize& Size) { return bRow ? Size.width() : Size.height(); };
+	double Left = Along(Rect.size());
+	double Shares = 0;
+	for (const FEntry& Entry : Entries)
+	{
+		if (Entry.Item->isEmpty())
+		{
+			continue;
+		}
+		const QMargins& Padding = Entry.Place.Padding;
+		Left -= bRow ? Padding.left() + Padding.right() : Padding.top() + Padding.bottom();
+		if (Entry.Place.Stretch > 0)
+		{
+			Shares += Entry.Place.Stretch;
+		}
+		else
+		{
+			Left -= Along(Entry.Item->sizeHint());
+		}
+	}
+	// Cell edges are rounded, not cell sizes, so that the shares fill the panel to the pixel.
+	double At = bRow ? Rect.x() : Rect.y();
+	for (const FEntry& Entry : Entries)
+	{
+		if (Entry.Item->isEmpty())
+		{
+			continue;
+		}
+		const QMargins& Padding = Entry.Place.Padding;
+		const double Inside = Entry.Place.Stretch > 0 ? std::max(0.0, Left) * Entry.Place.Stretch / Shares
+													  : Along(Entry.Item->sizeHint());
+		const double Size = Inside + (bRow ? Padding.left() + Padding.right() : Padding.top() + Padding.bottom());
+		const int Begin = qRound(At);
+		const int End = qRound(At + Size);
+		const QRect Cell = bRow ? QRect(Begin, Rect.y(), End - Begin, Rect.height())
+								: QRect(Rect.x(), Begin, Rect.width(), End - Begin);
+		Entry.Item->setGeometry(PlaceIn(Cell, Entry.Place, *Entry.Item));
+		At += Size;
+	}
+}
+
+} // namespace Host

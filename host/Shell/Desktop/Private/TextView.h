@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+/** Texts and pictures. */
+#pragma once
+
+#include "WidgetView.h"
+
+namespace Host
+{
+
+/** For STextBlock; null for others. */
+std::unique_ptr<FWidgetView> MakeTextView(FViewWorld& World, const TSharedRef<SWidget>& Model);
+} // namespace Host
