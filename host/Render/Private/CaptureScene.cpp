@@ -88,6 +88,7 @@ FSceneSnapshot FSceneCapture::Capture(const UWorld& World)
 		{
 			continue;
 		}
+		Object.bSelected = Component.ShouldRenderSelected();
 		Object.Placement = PlacementOf(Component.GetComponentTransform());
 		for (int32 Slot = 0; Slot < Component.GetNumMaterials(); ++Slot)
 		{

@@ -224,6 +224,11 @@ std::uint64_t FDesktop::FrameCount() const
 	return Impl->Loop.FrameCount();
 }
 
+bool FDesktop::IsStill() const
+{
+	return Impl->World.Pictures->IsStill();
+}
+
 std::string RunDesktop(int ArgumentCount, char** Arguments, const FDesktopOptions& Options)
 {
 	QApplication Application(ArgumentCount, Arguments);

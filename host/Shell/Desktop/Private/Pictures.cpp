@@ -9,6 +9,7 @@
 #include "SceneView.h"
 #include "UnrealClient.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Host
@@ -19,6 +20,8 @@ namespace
 
 /** A view that has stood for so long is drawn finely. */
 constexpr qint64 RestMilliseconds = 140;
+
+constexpr float SmallestFloor = 1200.0f; // cm, radius
 
 FFloat3 ToFloats(const FVector& Vector)
 {
@@ -43,6 +46,7 @@ struct FPictures::FEntry
 	QSize Pixels;
 	QElapsedTimer SincePaint;
 	bool bFineIsDue = false;
+	bool bOrdered = false; // since the latest picture was taken
 	FPictureQuality Quality;
 	QImage Image;
 	QString Error;
@@ -89,6 +93,8 @@ void FPictures::Paint(FViewport& Viewport, const FSceneView& View, const FViewDr
 	const FCameraSnapshot Camera = ViewFrom(ToFloats(View.ViewLocation), static_cast<float>(Rotation.Pitch),
 		static_cast<float>(Rotation.Yaw), static_cast<float>(Rotation.Roll), View.FOV);
 	LookAtSceneFrom(Scene, Camera, Entry->Bounds.Of(Scene.Objects));
+	// An empty scene, or a small one, stands on a floor that reaches as far as one looks.
+	Scene.Surroundings.FloorRadius = std::max(Scene.Surroundings.FloorRadius, SmallestFloor);
 	Scene.Surroundings.bGrid = Drawing.Grid.IsSet();
 	if (Drawing.Grid.IsSet())
 	{
@@ -111,6 +117,7 @@ void FPictures::Order(FEntry& Entry, int Quality)
 	Order.Height = Size.height();
 	Order.Options = FPictureQuality::OptionsOf(Quality);
 	Order.Quality = Quality;
+	Entry.bOrdered = true;
 	Entry.Thread.Order(std::move(Order));
 }
 
@@ -127,6 +134,7 @@ bool FPictures::Advance()
 				Entry->Quality.Note(Picture->Quality, Entry->Pixels, Picture->Milliseconds);
 				Entry->Image = std::move(Picture->Image);
 			}
+			Entry->bOrdered = Entry->Thread.IsBusy();
 			++Entry->Version;
 			Entry->Report = {Entry->Report.Finished + 1, Picture->Milliseconds, Picture->Quality};
 		}
@@ -138,6 +146,16 @@ bool FPictures::Advance()
 		bWaits = bWaits || Entry->bFineIsDue;
 	}
 	return bWaits;
+}
+
+bool FPictures::IsStill() const
+{
+	return !Entries.empty() && std::all_of(Entries.begin(), Entries.end(),
+								   [](const auto& Item)
+								   {
+									   const FEntry& Entry = *Item.second;
+									   return !Entry.bFineIsDue && !Entry.Thread.IsBusy() && !Entry.bOrdered;
+								   });
 }
 
 void FPictures::DropUnused()

@@ -53,6 +53,8 @@ public:
 	 * @return true while a view waits for its fine picture
 	 */
 	bool Advance();
+	/** There are pictures, all of them as fine as they get, and none is being drawn. */
+	bool IsStill() const;
 	/** Forgets viewports for which nobody has asked since the call before. */
 	void DropUnused();
 

@@ -43,6 +43,8 @@ public:
 	/** Runs one frame now. */
 	void RunFrame();
 	std::uint64_t FrameCount() const;
+	/** Every view shows its finest picture, and nothing moves. */
+	bool IsStill() const;
 
 private:
 	class FImpl;

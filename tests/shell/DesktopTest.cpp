@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QDialog>
+#include <QTest>
+
+#include "Components/PrimitiveComponent.h"
+#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
+#include "Editor/ZEFTandemEditor.h"
+#include "EditorViewportClient.h"
+
+#include "DesktopFixture.h"
+
+namespace
+{
+
+class Desktop : public FDesktopFixture
+{
+protected:
+	/** Aims the camera so that the middle of the view shows an object. */
+	void LookAt(int ObjectType)
+	{
+		const UPrimitiveComponent* const Object = Editor()->GetObjectComponents(ObjectType)[0];
+		const TSharedPtr<FEditorViewportClient> Client = Editor()->GetViewport()->GetViewportClient();
+		Client->FocusViewportOnBox(Object->Bounds.GetBox(), true);
+		Client->Invalidate();
+		ASSERT_TRUE(UntilStill());
+	}
+
+	/** The picture of the window, row by row. */
+	QImage Picture() { return Window()->grab().toImage(); }
+};
+
+TEST_F(Desktop, ShowsTheLinksAddressAndThatNobodyIsThere)
+{
+	OpenEditor();
+	EXPECT_TRUE(Until(
+		[this]
+		{
+			const QLabel* const State = Window()->findChild<QLabel*>("LinkState");
+			return State && State->text().contains("no garment application");
+		}));
+	EXPECT_EQ(Window()->findChild<QLabel*>("LinkAddress")->text().toStdString(), Endpoint());
+	StartPeer();
+	EXPECT_TRUE(
+		Until([this] { return Window()->findChild<QLabel*>("LinkState")->text().contains("connected to zef-peer"); }));
+}
+
+TEST_F(Desktop, AsksBeforeAnUpdateThenTellsOfItAndShowsTheObjects)
+{
+	StartPeer();
+	OpenEditor();
+	QString Asked;
+	WithNextDialog(
+		[&Asked](QDialog& Dialog)
+		{
+			Asked = Dialog.windowTitle() + "|" + Dialog.findChild<QLabel*>("Message")->text().section('\n', 0, 0) +
+					"|" + Dialog.findChild<QCheckBox*>()->text();
+			ButtonOf(Dialog, "Ok")->click();
+		});
+	Click("Update");
+	EXPECT_EQ(Asked, "Warning|Make sure to turn off simulation in ZEF|Don't ask me again");
+	EXPECT_TRUE(Until([this] { return Named("Update Requested") != nullptr; }));
+	EXPECT_TRUE(Until([this] { return NumObjects(2) == 1 && NumObjects(4) == 1 && NumObjects(8) == 1; }));
+	LookAt(4);
+	SavePicture("desktop-after-update");
+	// The avatar stands in the middle of a view that is light all over.
+	const QImage Image = Picture();
+	const QPoint Middle = View()->mapTo(Window(), View()->rect().center());
+	int Dark = 0;
+	for (int Y = Middle.y() - 60; Y < Middle.y() + 60; ++Y)
+	{
+		Dark += Image.pixelColor(Middle.x(), Y).lightness() < 150;
+	}
+	EXPECT_GT(Dark, 20);
+}
+
+TEST_F(Desktop, CancelledUpdateChangesNothing)
+{
+	StartPeer();
+	OpenEditor();
+	WithNextDialog([](QDialog& Dialog) { ButtonOf(Dialog, "Cancel")->click(); });
+	Click("Update");
+	EXPECT_EQ(Named("Update Requested"), nullptr);
+	EXPECT_EQ(NumObjects(2), 0);
+}
+
+TEST_F(Desktop, ClickInTheViewSelectsAndAClickBesideClears)
+{
+	StartPeer();
+	OpenEditor();
+	Update();
+	LookAt(4);
+	QTest::mouseClick(View(), Qt::LeftButton, Qt::NoModifier, View()->rect().center());
+	ASSERT_TRUE(Until([this] { return Editor()->GetSelectedObjects().Num() == 1; }));
+	ASSERT_TRUE(UntilStill());
+	SavePicture("desktop-selected");
+
+	QTest::mouseClick(View(), Qt::LeftButton, Qt::NoModifier, QPoint(8, View()->height() - 8));
+	EXPECT_TRUE(Until([this] { return Editor()->GetSelectedObjects().Num() == 0; }));
+}
+
+TEST_F(Desktop, DeleteKeyInTheViewRemovesTheSelectedGarment)
+{
+	StartPeer();
+	OpenEditor();
+	Update();
+	View()->setFocus();
+	Editor()->SetSelectedObjects(Editor()->GetObjectComponents(2), true);
+	QTest::keyClick(View(), Qt::Key_Delete);
+	EXPECT_TRUE(Until([this] { return NumObjects(2) == 0; }));
+	EXPECT_EQ(NumObjects(4), 1);
+}
+
+TEST_F(Desktop, DragWithTheRightButtonAndTheWheelMoveTheCamera)
+{
+	StartPeer();
+	OpenEditor();
+	const TSharedPtr<FEditorViewportClient> Client = Editor()->GetViewport()->GetViewportClient();
+	const FVector Before = Client->GetViewLocation();
+	const QPoint Middle = View()->rect().center();
+	QTest::mousePress(View(), Qt::LeftButton, Qt::AltModifier, Middle);
+	for (int Step = 1; Step <= 10; ++Step)
+	{
+		QTest::mouseMove(View(), Middle + QPoint(8 * Step, 0));
+	}
+	QTest::mouseRelease(View(), Qt::LeftButton, Qt::AltModifier, Middle + QPoint(80, 0));
+	EXPECT_TRUE(Until([&] { return (Client->GetViewLocation() - Before).Size() > 1.0; }));
+}
+
+TEST_F(Desktop, ClosingTheWindowWhileAQuestionStandsDismissesTheQuestion)
+{
+	StartPeer();
+	OpenEditor();
+	WithNextDialog([this](QDialog&) { Window()->close(); });
+	Click("Update");
+	EXPECT_TRUE(Until([this] { return !Desktop->IsOpen(); }));
+}
+
+TEST_F(Desktop, ClosingTheWindowInTheMiddleOfAnUpdateIsSafe)
+{
+	StartPeer();
+	OpenEditor();
+	WithNextDialog([](QDialog& Dialog) { ButtonOf(Dialog, "Ok")->click(); });
+	Click("Update");
+	Window()->close();
+	EXPECT_TRUE(Until([this] { return !Desktop->IsOpen(); }));
+}
+
+TEST_F(Desktop, LosingThePeerIsToldOnceAndTheWindowGoesOn)
+{
+	StartPeer();
+	OpenEditor();
+	Update();
+	int Told = 0;
+	WithNextDialog(
+		[&Told](QDialog& Dialog)
+		{
+			++Told;
+			EXPECT_EQ(Dialog.findChild<QLabel*>("Message")->text(),
+				"There is no Tandem connection.\nPlease restart ZEF or KR.");
+			ButtonOf(Dialog, "OK")->click();
+		});
+	Peer.reset();
+	EXPECT_TRUE(Until([&Told] { return Told == 1; }));
+	EXPECT_EQ(NumObjects(2), 1);
+	const std::uint64_t Before = Desktop->FrameCount();
+	EXPECT_TRUE(Until([&] { return Desktop->FrameCount() > Before + 2; }));
+	EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+} // namespace
