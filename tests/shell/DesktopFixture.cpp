@@ -28,8 +28,8 @@ void FDesktopFixture::TearDown()
 
 void FDesktopFixture::StartPeer()
 {
-	Peer = std::make_unique<FProgram>(std::vector<std::string>{ZEF_PEER_PROGRAM, "serve", "--endpoint", Endpoint(),
-										  "--ready-file", (Folder / "ready").string()},
+	Peer = std::make_unique<FProgram>(
+		std::vector<std::string>{ZEF_PEER_PROGRAM, "serve", "--endpoint", Endpoint(), "--ready-file", Folder / "ready"},
 		Folder / "peer.log");
 	ASSERT_TRUE(Until([this] { return std::filesystem::exists(Folder / "ready") || !Peer->IsRunning(); }));
 	ASSERT_TRUE(Peer->IsRunning()) << Peer->Output();
@@ -42,15 +42,14 @@ void FDesktopFixture::OpenDesktop()
 	Options.Plugin = ZEF_SOURCE_DIR;
 	Options.Endpoint = Endpoint();
 	std::string Error;
-	Desktop = Host::FDesktop::Open(Options, Error);
-	ASSERT_NE(Desktop, nullptr) << Error;
+	Running = Host::FDesktop::Open(Options, Error);
+	ASSERT_NE(Running, nullptr) << Error;
 	ASSERT_TRUE(QTest::qWaitForWindowExposed(Window()));
 }
 
 void FDesktopFixture::CloseDesktop()
 {
-	Desktop.reset();
-	QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+	Running.reset();
 }
 
 void FDesktopFixture::OpenEditor()
@@ -78,7 +77,7 @@ bool FDesktopFixture::Until(const std::function<bool()>& Done)
 
 bool FDesktopFixture::UntilStill()
 {
-	return Until([this] { return Desktop->IsStill(); });
+	return Until([this] { return Running->IsStill(); });
 }
 
 QWidget* FDesktopFixture::Named(const QString& Name) const

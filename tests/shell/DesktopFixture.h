@@ -36,7 +36,7 @@ protected:
 	/** Runs the event loop until the view's picture is one of the finest kind and nothing moves. */
 	bool UntilStill();
 
-	QWidget* Window() const { return Desktop->MainWindow(); }
+	QWidget* Window() const { return Running->MainWindow(); }
 	/** The first visible widget of that accessible name in any window; null when there is none. */
 	QWidget* Named(const QString& Name) const;
 	/** Clicks the button of that accessible name or text, wherever it is. */
@@ -53,9 +53,9 @@ protected:
 	TSharedPtr<FZEFTandemEditor> Editor() const;
 	int NumObjects(int ObjectType) const;
 
-	std::string Endpoint() const { return "ipc://" + (Folder / "t.sock").string(); }
+	std::string Endpoint() const { return "ipc://" + Folder / "t.sock"; }
 
 	FTemporaryFolder Folder;
 	std::unique_ptr<FProgram> Peer;
-	std::unique_ptr<Host::FDesktop> Desktop;
+	std::unique_ptr<Host::FDesktop> Running;
 };

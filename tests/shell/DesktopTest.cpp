@@ -134,7 +134,7 @@ TEST_F(Desktop, ClosingTheWindowWhileAQuestionStandsDismissesTheQuestion)
 	OpenEditor();
 	WithNextDialog([this](QDialog&) { Window()->close(); });
 	Click("Update");
-	EXPECT_TRUE(Until([this] { return !Desktop->IsOpen(); }));
+	EXPECT_TRUE(Until([this] { return !Running->IsOpen(); }));
 }
 
 TEST_F(Desktop, ClosingTheWindowInTheMiddleOfAnUpdateIsSafe)
@@ -144,7 +144,7 @@ TEST_F(Desktop, ClosingTheWindowInTheMiddleOfAnUpdateIsSafe)
 	WithNextDialog([](QDialog& Dialog) { ButtonOf(Dialog, "Ok")->click(); });
 	Click("Update");
 	Window()->close();
-	EXPECT_TRUE(Until([this] { return !Desktop->IsOpen(); }));
+	EXPECT_TRUE(Until([this] { return !Running->IsOpen(); }));
 }
 
 TEST_F(Desktop, LosingThePeerIsToldOnceAndTheWindowGoesOn)
@@ -164,8 +164,8 @@ TEST_F(Desktop, LosingThePeerIsToldOnceAndTheWindowGoesOn)
 	Peer.reset();
 	EXPECT_TRUE(Until([&Told] { return Told == 1; }));
 	EXPECT_EQ(NumObjects(2), 1);
-	const std::uint64_t Before = Desktop->FrameCount();
-	EXPECT_TRUE(Until([&] { return Desktop->FrameCount() > Before + 2; }));
+	const std::uint64_t Before = Running->FrameCount();
+	EXPECT_TRUE(Until([&] { return Running->FrameCount() > Before + 2; }));
 	EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 

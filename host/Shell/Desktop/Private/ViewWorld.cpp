@@ -105,10 +105,13 @@ void FViewWorld::Bury(QWidget* Native)
 
 void FViewWorld::ClearGraveyard()
 {
-	// A widget may take its children, buried before, along.
-	for (const QPointer<QWidget>& Native : std::exchange(Graveyard, {}))
+	// A widget may take its children, buried before, along, and views that end with it bury more.
+	while (!Graveyard.empty())
 	{
-		delete Native.data();
+		for (const QPointer<QWidget>& Native : std::exchange(Graveyard, {}))
+		{
+			delete Native.data();
+		}
 	}
 }
 

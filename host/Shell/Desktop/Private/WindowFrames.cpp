@@ -123,9 +123,8 @@ void FWindowFrame::Follow()
 void FWindowFrame::CloseForGood()
 {
 	bClosing = true;
-	hide();
 	ModalLoop.quit();
-	deleteLater();
+	World.Bury(this);
 }
 
 void FWindowFrame::RunModal()
