@@ -59,6 +59,13 @@ void FDesktopFixture::OpenEditor()
 		Click("ZEF/KR Tandem Editor");
 	}
 	ASSERT_TRUE(Until([this] { return Editor().IsValid() && View() != nullptr; }));
+	// A request before the link is up would be one of nobody.
+	ASSERT_TRUE(Until(
+		[this]
+		{
+			const QLabel* const State = Window()->findChild<QLabel*>("LinkState");
+			return !Peer || State->text().contains("connected to");
+		}));
 }
 
 void FDesktopFixture::Update()

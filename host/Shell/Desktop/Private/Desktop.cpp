@@ -12,16 +12,10 @@
 #include "ViewWorld.h"
 #include "WindowFrames.h"
 
-#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
-#include "Editor/ZEFTandemEditor.h"
-#include "Editor/ZEFTandemEditorCommands.h"
-#include "Editor/ZEFTandemEditorModule.h"
 #include "Framework/Application/SlateApplication.h"
-#include "Framework/Docking/TabManager.h"
-#include "Framework/MultiBox/MultiBoxBuilder.h"
 #include "Host/EditorSession.h"
-#include "Widgets/SBoxPanel.h"
-#include "Modules/ModuleManager.h"
+#include "Host/LevelEditorFrame.h"
+#include "Host/Toolkits.h"
 #include "Zef/LinkWatch.h"
 
 namespace Host
@@ -43,9 +37,11 @@ public:
 	{
 		Zef::SetLinkListener(nullptr);
 		bEnding = true;
-		if (const TSharedPtr<SWindow> Main = MainModel.Pin())
+		if (LevelEditor.IsValid())
 		{
-			Main->RequestDestroyWindow();
+			CloseAllToolkits();
+			LevelEditor->Close();
+			LevelEditor.Reset();
 		}
 		Session.End();
 		World.ClearGraveyard();
@@ -115,30 +111,13 @@ public:
 	FWindowFrames Windows;
 	FEditorSession Session;
 	TWeakPtr<SWindow> MainModel;
-	TSharedPtr<FZEFTandemEditor> Editor;
+	TSharedPtr<FLevelEditorFrame> LevelEditor;
 
 private:
-	/** A window with the tandem editor's commands and view. */
 	void OpenMainWindow()
 	{
-		FZEFTandemEditorModule& Module =
-			FModuleManager::LoadModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor"));
-		Editor = StaticCastSharedPtr<FZEFTandemEditor>(Module.CreateEditor());
-		const FZEFTandemEditorCommands& Commands = FZEFTandemEditorCommands::Get();
-		FToolBarBuilder Bar(Editor->GetToolkitCommands(), FMultiBoxCustomization::None);
-		Bar.AddToolBarButton(Commands.Update);
-		Bar.AddToolBarButton(Commands.SetUnifiedMaterial);
-		Bar.AddToolBarButton(Commands.FocusCamera);
-		const TSharedRef<SWindow> Window =
-			SNew(SWindow)
-				.Title(Editor->GetToolkitName())
-				.ClientSize(FVector2D(
-					1280.0, 800.0))[SNew(SVerticalBox) + SVerticalBox::Slot().AutoHeight()[Bar.MakeWidget()] +
-									SVerticalBox::Slot().FillHeight(1.0f)[Editor->GetViewport().ToSharedRef()]];
-		Window->SetOnWindowClosed(
-			FOnWindowClosed::CreateLambda([this](const TSharedRef<SWindow>&) { Editor.Reset(); }));
-		MainModel = Window;
-		FSlateApplication::Get().AddWindow(Window);
+		LevelEditor = Session.Engine().OpenLevelEditor();
+		MainModel = LevelEditor->GetWindow();
 	}
 
 	/** The native focus went elsewhere: the model's follows. */

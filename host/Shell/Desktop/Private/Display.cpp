@@ -25,7 +25,10 @@ bool HasPlatform(const char* Pattern)
 	return !Folder.entryList({QLatin1String(Pattern)}, QDir::Files).isEmpty();
 }
 
-/** Whether the X server that $DISPLAY names lets us in. Asked of the library that Qt asks, which is there with Qt. */
+/**
+ * Whether the X server that $DISPLAY names lets us in. Asked of the library that Qt asks, which is there with Qt. The
+ * connection stays: a server whose last client goes starts afresh, and would turn Qt away meanwhile.
+ */
 bool CanReachX()
 {
 	void* const Library = dlopen("libxcb.so.1", RTLD_NOW | RTLD_LOCAL);
@@ -35,19 +38,14 @@ bool CanReachX()
 	}
 	using FConnect = void* (*)(const char*, int*);
 	using FHasError = int (*)(void*);
-	using FDisconnect = void (*)(void*);
 	const auto Connect = reinterpret_cast<FConnect>(dlsym(Library, "xcb_connect"));
 	const auto HasError = reinterpret_cast<FHasError>(dlsym(Library, "xcb_connection_has_error"));
-	const auto Disconnect = reinterpret_cast<FDisconnect>(dlsym(Library, "xcb_disconnect"));
-	bool bReached = false;
-	if (Connect && HasError && Disconnect)
+	static void* Connection = nullptr;
+	if (!Connection && Connect)
 	{
-		void* const Connection = Connect(nullptr, nullptr);
-		bReached = HasError(Connection) == 0;
-		Disconnect(Connection);
+		Connection = Connect(nullptr, nullptr);
 	}
-	dlclose(Library);
-	return bReached;
+	return Connection && HasError && HasError(Connection) == 0;
 }
 
 } // namespace

@@ -67,7 +67,12 @@ void FModelLayout::Clear()
 		delete Entry.Item;
 	}
 	Entries.clear();
-	invalidate();
+	Hint = QSize();
+	Minimum = QSize();
+	if (parent())
+	{
+		invalidate();
+	}
 }
 
 void FModelLayout::SetPlace(int Index, const FPlace& Place)
@@ -83,6 +88,7 @@ void FModelLayout::SetPlace(int Index, const FPlace& Place)
 void FModelLayout::addItem(QLayoutItem* Item)
 {
 	Entries.push_back({Item, FPlace()});
+	invalidate();
 }
 
 QLayoutItem* FModelLayout::itemAt(int Index) const
@@ -96,6 +102,7 @@ QLayoutItem* FModelLayout::takeAt(int Index)
 	if (Item)
 	{
 		Entries.erase(Entries.begin() + Index);
+		invalidate();
 	}
 	return Item;
 }
@@ -129,12 +136,27 @@ QSize FModelLayout::Total(QSize (QLayoutItem::*SizeOf)() const) const
 
 QSize FModelLayout::sizeHint() const
 {
-	return Total(&QLayoutItem::sizeHint);
+	if (!Hint.isValid())
+	{
+		Hint = Total(&QLayoutItem::sizeHint);
+	}
+	return Hint;
 }
 
 QSize FModelLayout::minimumSize() const
 {
-	return Total(&QLayoutItem::minimumSize);
+	if (!Minimum.isValid())
+	{
+		Minimum = Total(&QLayoutItem::minimumSize);
+	}
+	return Minimum;
+}
+
+void FModelLayout::invalidate()
+{
+	Hint = QSize();
+	Minimum = QSize();
+	QLayout::invalidate();
 }
 
 void FModelLayout::setGeometry(const QRect& Rect)

@@ -58,6 +58,7 @@ public:
 	QSize minimumSize() const override;
 	Qt::Orientations expandingDirections() const override { return {}; }
 	void setGeometry(const QRect& Rect) override;
+	void invalidate() override;
 
 private:
 	struct FEntry
@@ -70,6 +71,9 @@ private:
 
 	EPanelKind Kind;
 	std::vector<FEntry> Entries;
+	// Of the time since the last change: layouts ask each other over and over, twice as often on each level.
+	mutable QSize Hint;
+	mutable QSize Minimum;
 };
 
 } // namespace Host

@@ -5,7 +5,9 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace Host
 {
@@ -14,6 +16,40 @@ namespace
 {
 
 constexpr double FontPoints = 9.5;
+
+/** Draws by itself what the style has as coloured pictures. */
+class FDesktopStyle : public QProxyStyle
+{
+public:
+	FDesktopStyle()
+		: QProxyStyle(QStyleFactory::create("Fusion"))
+	{
+	}
+
+	void drawPrimitive(
+		PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override
+	{
+		if (Element != PE_IndicatorTabClose)
+		{
+			QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+			return;
+		}
+		const bool bHovered = Option->state.testFlag(State_MouseOver);
+		const QPointF Center = QRectF(Option->rect).center();
+		Painter->save();
+		Painter->setRenderHint(QPainter::Antialiasing);
+		if (bHovered)
+		{
+			Painter->setPen(Qt::NoPen);
+			Painter->setBrush(Theme::Hovered);
+			Painter->drawRoundedRect(QRectF(Option->rect), 3, 3);
+		}
+		Painter->setPen(QPen(bHovered ? Theme::StrongText : Theme::SubduedText, 1.4));
+		Painter->drawLine(Center + QPointF(-3.5, -3.5), Center + QPointF(3.5, 3.5));
+		Painter->drawLine(Center + QPointF(-3.5, 3.5), Center + QPointF(3.5, -3.5));
+		Painter->restore();
+	}
+};
 
 QPalette DarkPalette()
 {
@@ -133,7 +169,7 @@ QScrollArea { border: none; background: #242424; }
 void ApplyTheme(QApplication& Application)
 {
 	// One style everywhere: a desktop's own would bring light colours into half of the widgets.
-	QApplication::setStyle(QStyleFactory::create("Fusion"));
+	QApplication::setStyle(new FDesktopStyle);
 	QApplication::setPalette(DarkPalette());
 	QFont Font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
 	QStringList Families;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ViewWorld.h"
 
+#include "DetailsView.h"
 #include "DockViews.h"
 #include "MultiBoxViews.h"
 #include "PanelViews.h"
@@ -22,6 +23,7 @@ using FMaker = std::unique_ptr<FWidgetView> (*)(FViewWorld&, const TSharedRef<SW
 // Each makes the views of its kinds of widgets and null for others; the first that answers counts.
 constexpr FMaker Makers[] = {
 	&MakeViewportView,
+	&MakeDetailsView,
 	&MakeMultiBoxView,
 	&MakeDockView,
 	&MakeTextView,

@@ -57,24 +57,28 @@ FWindowFrame::FWindowFrame(FViewWorld& InWorld, const TSharedRef<SWindow>& InMod
 	}
 	Follow();
 	const FVector2D Size = InModel->GetClientSizeInScreen();
+	const bool bCentered = FWindowAccess::GetAutoCenter(*InModel) != EAutoCenter::None;
 	if (InModel->IsAutosized() || Size.X <= 0 || Size.Y <= 0)
 	{
 		adjustSize();
 	}
 	else
 	{
-		resize(qRound(Size.X), qRound(Size.Y));
+		const QSize Room = QGuiApplication::primaryScreen()->availableSize();
+		resize(QSize(qRound(Size.X), qRound(Size.Y)).boundedTo(Room));
+		// The model takes over what the screen has room for.
+		WindowWasMoved(*InModel, InModel->GetPositionInScreen(), FVector2D(width(), height()), false);
 	}
-	if (FWindowAccess::GetAutoCenter(*InModel) == EAutoCenter::None)
-	{
-		move(qRound(InModel->GetPositionInScreen().X), qRound(InModel->GetPositionInScreen().Y));
-	}
-	else
+	if (bCentered)
 	{
 		const QRect Room = Parent ? Parent->frameGeometry() : QGuiApplication::primaryScreen()->availableGeometry();
 		QRect Place(QPoint(), size());
 		Place.moveCenter(Room.center());
 		move(Place.topLeft());
+	}
+	else
+	{
+		move(qRound(InModel->GetPositionInScreen().X), qRound(InModel->GetPositionInScreen().Y));
 	}
 }
 
