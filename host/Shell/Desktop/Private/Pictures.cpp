@@ -5,6 +5,7 @@
 #include "Engine/World.h"
 #include "Host/Scene.h"
 #include "Host/SceneCamera.h"
+#include "Host/ViewLook.h"
 #include "SceneInterface.h"
 #include "SceneView.h"
 #include "UnrealClient.h"
@@ -23,11 +24,6 @@ constexpr qint64 RestMilliseconds = 140;
 
 constexpr float SmallestFloor = 1200.0f; // cm, radius
 
-FFloat3 ToFloats(const FVector& Vector)
-{
-	return {static_cast<float>(Vector.X), static_cast<float>(Vector.Y), static_cast<float>(Vector.Z)};
-}
-
 const QImage NoImage;
 const QString NoText;
 
@@ -42,7 +38,8 @@ struct FPictures::FEntry
 
 	FSceneCapture Capture;
 	FBoundsMemory Bounds;
-	FSceneSnapshot Scene; // as it was painted last
+	FSceneSnapshot Scene;	// as it was painted last
+	FRenderOptions Allowed; // what the view's show flags leave on
 	QSize Pixels;
 	QElapsedTimer SincePaint;
 	bool bFineIsDue = false;
@@ -89,10 +86,9 @@ void FPictures::Paint(FViewport& Viewport, const FSceneView& View, const FViewDr
 	Entry->bUsed = true;
 	Entry->Pixels = QSize(Size.X, Size.Y);
 	FSceneSnapshot Scene = Entry->Capture.Capture(*World);
-	const FRotator& Rotation = View.ViewRotation;
-	const FCameraSnapshot Camera = ViewFrom(ToFloats(View.ViewLocation), static_cast<float>(Rotation.Pitch),
-		static_cast<float>(Rotation.Yaw), static_cast<float>(Rotation.Roll), View.FOV);
-	LookAtSceneFrom(Scene, Camera, Entry->Bounds.Of(Scene.Objects));
+	const FSceneBounds Bounds = Entry->Bounds.Of(Scene.Objects);
+	LookThrough(Scene, View, Bounds);
+	Entry->Allowed = OptionsFor(View, FRenderOptions());
 	// An empty scene, or a small one, stands on a floor that reaches as far as one looks.
 	Scene.Surroundings.FloorRadius = std::max(Scene.Surroundings.FloorRadius, SmallestFloor);
 	Scene.Surroundings.bGrid = Drawing.Grid.IsSet();
@@ -116,6 +112,9 @@ void FPictures::Order(FEntry& Entry, int Quality)
 	Order.Width = Size.width();
 	Order.Height = Size.height();
 	Order.Options = FPictureQuality::OptionsOf(Quality);
+	Order.Options.bShadows = Order.Options.bShadows && Entry.Allowed.bShadows;
+	Order.Options.bAmbientOcclusion = Order.Options.bAmbientOcclusion && Entry.Allowed.bAmbientOcclusion;
+	Order.Options.bBackdrop = Entry.Allowed.bBackdrop;
 	Order.Quality = Quality;
 	Entry.bOrdered = true;
 	Entry.Thread.Order(std::move(Order));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/** The line at the foot of the main window: the link's address and how it stands. */
+/** The line at the foot of a window: the link's address and how it stands. */
 #pragma once
 
 #include <QWidget>

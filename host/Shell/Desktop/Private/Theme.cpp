@@ -29,6 +29,11 @@ public:
 	void drawPrimitive(
 		PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override
 	{
+		if (Element == PE_IndicatorCheckBox || Element == PE_IndicatorItemViewItemCheck)
+		{
+			DrawCheck(*Option, *Painter);
+			return;
+		}
 		if (Element != PE_IndicatorTabClose)
 		{
 			QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
@@ -48,6 +53,33 @@ public:
 		Painter->drawLine(Center + QPointF(-3.5, -3.5), Center + QPointF(3.5, 3.5));
 		Painter->drawLine(Center + QPointF(-3.5, 3.5), Center + QPointF(3.5, -3.5));
 		Painter->restore();
+	}
+
+private:
+	static void DrawCheck(const QStyleOption& Option, QPainter& Painter)
+	{
+		const bool bEnabled = Option.state.testFlag(State_Enabled);
+		const bool bOn = Option.state.testFlag(State_On);
+		const QRectF Box = QRectF(Option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
+		Painter.save();
+		Painter.setRenderHint(QPainter::Antialiasing);
+		const bool bMarked = Option.state.testFlag(State_HasFocus) || Option.state.testFlag(State_MouseOver);
+		Painter.setPen(QPen(bMarked ? Theme::AccentHovered : bEnabled ? Theme::SubduedText : Theme::Outline, 1));
+		Painter.setBrush(bOn && bEnabled ? Theme::Accent : Theme::Input);
+		Painter.drawRoundedRect(Box, 3, 3);
+		Painter.setPen(QPen(bEnabled ? Theme::StrongText : Theme::DisabledText, 1.8, Qt::SolidLine, Qt::RoundCap));
+		if (bOn)
+		{
+			const QPointF Points[] = {Box.topLeft() + QPointF(Box.width() * 0.22, Box.height() * 0.52),
+				Box.topLeft() + QPointF(Box.width() * 0.43, Box.height() * 0.74),
+				Box.topLeft() + QPointF(Box.width() * 0.79, Box.height() * 0.27)};
+			Painter.drawPolyline(Points, 3);
+		}
+		else if (Option.state.testFlag(State_NoChange))
+		{
+			Painter.drawLine(QPointF(Box.left() + 3, Box.center().y()), QPointF(Box.right() - 3, Box.center().y()));
+		}
+		Painter.restore();
 	}
 };
 

@@ -224,6 +224,10 @@ public:
 		auto* const Layout = new FModelLayout(EPanelKind::Stack);
 		Native()->setLayout(Layout);
 		Layout->Add(Overlay->Native(), FPlace());
+		// Readable over any picture.
+		Overlay->Native()->setStyleSheet(
+			"QToolButton { background: rgba(30, 30, 30, 200); color: #ffffff; margin: 2px; }"
+			"QToolButton:hover { background: rgba(76, 76, 76, 230); } QToolButton:focus { border-color: #0e86ff; }");
 	}
 
 protected:

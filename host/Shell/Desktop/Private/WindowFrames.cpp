@@ -17,7 +17,9 @@
 #include "ViewWorld.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Host/DockNodes.h"
 #include "Host/Menus.h"
+#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
 #include <utility>
@@ -37,6 +39,24 @@ Qt::WindowFlags FlagsOf(const SWindow& Model, bool bModal)
 	Flags.setFlag(Qt::WindowMaximizeButtonHint, Model.HasMaximizeBox() && !bModal);
 	Flags.setFlag(Qt::WindowStaysOnTopHint, Model.IsTopmostWindow());
 	return Flags;
+}
+
+/** The tab in front of the first stack that has any. */
+TSharedPtr<SDockTab> FrontTab(const TSharedRef<SWidget>& Root)
+{
+	if (const auto* const Stack = dynamic_cast<const SDockStack*>(&Root.Get()))
+	{
+		return Stack->GetForegroundTab();
+	}
+	FChildren& Children = *Root->GetChildren();
+	for (int32 Index = 0; Index < Children.Num(); ++Index)
+	{
+		if (const TSharedPtr<SDockTab> Found = FrontTab(Children.GetChildAt(Index)))
+		{
+			return Found;
+		}
+	}
+	return nullptr;
 }
 
 } // namespace
@@ -104,6 +124,7 @@ void FWindowFrame::Follow()
 		Title = NewTitle;
 		setWindowTitle(Title.isEmpty() ? QGuiApplication::applicationDisplayName() : Title);
 	}
+	FollowMenuBar(Current.ToSharedRef());
 	Content->Follow();
 	if (Status)
 	{
@@ -121,6 +142,28 @@ void FWindowFrame::Follow()
 	{
 		resize(qRound(Wanted.X), qRound(Wanted.Y));
 		TellPlace(); // what the screen made of it
+	}
+}
+
+void FWindowFrame::FollowMenuBar(const TSharedRef<SWindow>& Current)
+{
+	const TSharedPtr<SDockTab> Front = FrontTab(Current);
+	const TSharedPtr<FTabManager> Manager =
+		Front.IsValid() ? FGlobalTabmanager::Get()->GetTabManagerForMajorTab(Front) : nullptr;
+	const TSharedPtr<SWidget> Menu =
+		Manager.IsValid() && Manager->AllowsWindowMenuBar() ? Manager->GetMenuWidget() : nullptr;
+	if (Menu != (MenuBar ? MenuBar->Model() : nullptr))
+	{
+		MenuBar.reset();
+		if (Menu.IsValid())
+		{
+			MenuBar = World.Make(Menu.ToSharedRef());
+			static_cast<QVBoxLayout*>(layout())->insertWidget(0, MenuBar->Native());
+		}
+	}
+	if (MenuBar)
+	{
+		MenuBar->Follow();
 	}
 }
 
@@ -264,7 +307,7 @@ FWindowFrame& FWindowFrames::Take(const TSharedRef<SWindow>& Window, bool bModal
 		Parent = QApplication::activeWindow();
 	}
 	auto* const Frame = new FWindowFrame(World, Window, Parent, bModal);
-	if (Frames.empty())
+	if (!bModal && !Window->GetParentWindow().IsValid())
 	{
 		Frame->MakeMain();
 	}

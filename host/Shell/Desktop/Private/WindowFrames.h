@@ -18,7 +18,7 @@ class FDialogWindows;
 class FStatusLine;
 class FToasts;
 
-/** One top-level window: the content of its model, and in the main window the status line and the toasts. */
+/** One window: the content of its model; if it belongs to no other one, a status line and toasts as well. */
 class FWindowFrame : public QWidget
 {
 public:
@@ -44,12 +44,15 @@ protected:
 	void changeEvent(QEvent* Event) override;
 
 private:
+	void FollowMenuBar(const TSharedRef<SWindow>& Current);
 	void TellPlace();
 	bool SendKey(QKeyEvent& Event, bool bDown);
 
 	FViewWorld& World;
 	TWeakPtr<SWindow> WeakModel;
 	std::unique_ptr<FWidgetView> Content;
+	/** The main menu of the editor in front; null when it has none. */
+	std::unique_ptr<FWidgetView> MenuBar;
 	FStatusLine* Status = nullptr;
 	FToasts* Toasts = nullptr;
 	QEventLoop ModalLoop;
