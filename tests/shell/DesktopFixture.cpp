@@ -144,7 +144,8 @@ void FDesktopFixture::SavePicture(const QString& Name)
 {
 	const QString FolderName = QString(ZEF_BINARY_DIR) + "/pictures";
 	ASSERT_TRUE(QDir().mkpath(FolderName));
-	EXPECT_TRUE(Window()->grab().save(FolderName + "/" + Name + ".png"));
+	QWidget* const Shown = View() ? View()->window() : Window();
+	EXPECT_TRUE(Shown->grab().save(FolderName + "/" + Name + ".png"));
 }
 
 TSharedPtr<FZEFTandemEditor> FDesktopFixture::Editor() const

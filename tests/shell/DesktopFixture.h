@@ -46,7 +46,7 @@ protected:
 	/** Does something to the dialog that opens next, as soon as it stands. */
 	void WithNextDialog(std::function<void(QDialog&)> Act);
 	static QAbstractButton* ButtonOf(QWidget& Parent, const QString& Text);
-	/** What the window shows, written below the build folder for people to look at. */
+	/** What the window with the view shows, written below the build folder for people to look at. */
 	void SavePicture(const QString& Name);
 
 	/** The open instance; empty when none is open. */

@@ -2,12 +2,15 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialog>
+#include <QTabBar>
 #include <QTest>
 
 #include "Components/PrimitiveComponent.h"
 #include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
 #include "Editor/ZEFTandemEditor.h"
 #include "EditorViewportClient.h"
+#include "Framework/Docking/TabManager.h"
+#include "Host/Docking.h"
 
 #include "DesktopFixture.h"
 
@@ -17,6 +20,16 @@ namespace
 class Desktop : public FDesktopFixture
 {
 protected:
+	static int NumWindows()
+	{
+		int Count = 0;
+		for (const QWidget* const Top : QApplication::topLevelWidgets())
+		{
+			Count += Top->isVisible() && Top->windowType() == Qt::Window;
+		}
+		return Count;
+	}
+
 	/** Aims the camera so that the middle of the view shows an object. */
 	void LookAt(int ObjectType)
 	{
@@ -26,9 +39,6 @@ protected:
 		Client->Invalidate();
 		ASSERT_TRUE(UntilStill());
 	}
-
-	/** The picture of the window, row by row. */
-	QImage Picture() { return Window()->grab().toImage(); }
 };
 
 TEST_F(Desktop, ShowsTheLinksAddressAndThatNobodyIsThere)
@@ -65,14 +75,15 @@ TEST_F(Desktop, AsksBeforeAnUpdateThenTellsOfItAndShowsTheObjects)
 	LookAt(4);
 	SavePicture("desktop-after-update");
 	// The avatar stands in the middle of a view that is light all over.
-	const QImage Image = Picture();
-	const QPoint Middle = View()->mapTo(Window(), View()->rect().center());
+	const QImage Image = View()->grab().toImage();
+	const QPoint Middle = Image.rect().center();
 	int Dark = 0;
 	for (int Y = Middle.y() - 60; Y < Middle.y() + 60; ++Y)
 	{
 		Dark += Image.pixelColor(Middle.x(), Y).lightness() < 150;
 	}
 	EXPECT_GT(Dark, 20);
+	EXPECT_GT(Image.pixelColor(Image.width() - 12, Image.height() - 12).lightness(), 150);
 }
 
 TEST_F(Desktop, CancelledUpdateChangesNothing)
@@ -112,7 +123,7 @@ TEST_F(Desktop, DeleteKeyInTheViewRemovesTheSelectedGarment)
 	EXPECT_EQ(NumObjects(4), 1);
 }
 
-TEST_F(Desktop, DragWithTheRightButtonAndTheWheelMoveTheCamera)
+TEST_F(Desktop, DragInTheViewMovesTheCamera)
 {
 	StartPeer();
 	OpenEditor();
@@ -167,6 +178,69 @@ TEST_F(Desktop, LosingThePeerIsToldOnceAndTheWindowGoesOn)
 	const std::uint64_t Before = Running->FrameCount();
 	EXPECT_TRUE(Until([&] { return Running->FrameCount() > Before + 2; }));
 	EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Desktop, TabIsFloatedClosedAndComesBackToItsPlace)
+{
+	OpenEditor();
+	const TSharedPtr<FTabManager> Tabs = Editor()->GetAssociatedTabManager();
+	const FTabId Details(FName(TEXT("ZEFTandemEditor_Properties")));
+	const int Windows = NumWindows();
+	ASSERT_TRUE(Host::FloatTab(Tabs->TryInvokeTab(Details).ToSharedRef(), FVector2D(60.0, 60.0)));
+	ASSERT_TRUE(Until([&] { return NumWindows() == Windows + 1; }));
+
+	ASSERT_TRUE(Tabs->FindExistingLiveTab(Details)->RequestCloseTab());
+	EXPECT_TRUE(Until([&] { return NumWindows() == Windows; }));
+	EXPECT_FALSE(Tabs->FindExistingLiveTab(Details).IsValid());
+
+	Tabs->TryInvokeTab(Details);
+	EXPECT_TRUE(Until([&] { return NumWindows() == Windows + 1; }));
+}
+
+TEST_F(Desktop, TabIsDraggedWithTheMouseIntoAWindowOfItsOwn)
+{
+	OpenEditor();
+	QTabBar* Bar = nullptr;
+	for (QTabBar* const Candidate : View()->window()->findChildren<QTabBar*>())
+	{
+		Bar = Candidate->isVisible() && Candidate->count() == 2 ? Candidate : Bar;
+	}
+	ASSERT_NE(Bar, nullptr);
+	const int Windows = NumWindows();
+	const QPoint From = Bar->tabRect(1).center();
+	const QPoint Outside(Bar->mapFromGlobal(QPoint(-400, -400)));
+	QTest::mousePress(Bar, Qt::LeftButton, Qt::NoModifier, From);
+	QTest::mouseMove(Bar, From + QPoint(60, 0));
+	QTest::mouseMove(Bar, Outside);
+	QTest::mouseRelease(Bar, Qt::LeftButton, Qt::NoModifier, Outside);
+	EXPECT_TRUE(Until([&] { return NumWindows() == Windows + 1 && Bar->count() == 1; }));
+}
+
+TEST_F(Desktop, ClosingTheWindowWhileATabIsDraggedIsSafe)
+{
+	OpenEditor();
+	QTabBar* Bar = nullptr;
+	for (QTabBar* const Candidate : View()->window()->findChildren<QTabBar*>())
+	{
+		Bar = Candidate->isVisible() && Candidate->count() == 2 ? Candidate : Bar;
+	}
+	ASSERT_NE(Bar, nullptr);
+	const QPoint From = Bar->tabRect(1).center();
+	QTest::mousePress(Bar, Qt::LeftButton, Qt::NoModifier, From);
+	QTest::mouseMove(Bar, From + QPoint(60, 0));
+	Window()->close();
+	EXPECT_TRUE(Until([this] { return !Running->IsOpen(); }));
+}
+
+TEST_F(Desktop, ClosedEditorIsGoneAndTheNextClickOpensAnother)
+{
+	OpenEditor();
+	const FZEFTandemEditor* const First = Editor().Get();
+	ASSERT_NE(First, nullptr);
+	Editor()->CloseWindow();
+	ASSERT_TRUE(Until([this] { return !Editor().IsValid(); }));
+	OpenEditor();
+	EXPECT_TRUE(Editor().IsValid());
 }
 
 } // namespace
