@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-/** Texts and pictures. */
+/** Texts. */
 #pragma once
 
 #include "WidgetView.h"

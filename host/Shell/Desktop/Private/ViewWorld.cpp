@@ -3,6 +3,8 @@
 
 #include "DetailsView.h"
 #include "DockViews.h"
+#include "ImageView.h"
+#include "InputViews.h"
 #include "MultiBoxViews.h"
 #include "PanelViews.h"
 #include "Pictures.h"
@@ -26,7 +28,9 @@ constexpr FMaker Makers[] = {
 	&MakeDetailsView,
 	&MakeMultiBoxView,
 	&MakeDockView,
+	&MakeInputView,
 	&MakeTextView,
+	&MakeImageView,
 	&MakePanelView,
 };
 

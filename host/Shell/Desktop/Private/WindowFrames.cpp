@@ -307,7 +307,7 @@ FWindowFrame& FWindowFrames::Take(const TSharedRef<SWindow>& Window, bool bModal
 		Parent = QApplication::activeWindow();
 	}
 	auto* const Frame = new FWindowFrame(World, Window, Parent, bModal);
-	if (!bModal && !Window->GetParentWindow().IsValid())
+	if (!bModal)
 	{
 		Frame->MakeMain();
 	}

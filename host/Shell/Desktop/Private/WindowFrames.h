@@ -18,7 +18,7 @@ class FDialogWindows;
 class FStatusLine;
 class FToasts;
 
-/** One window: the content of its model; if it belongs to no other one, a status line and toasts as well. */
+/** One window: the content of its model; unless it is modal, a status line and toasts as well. */
 class FWindowFrame : public QWidget
 {
 public:
