@@ -84,6 +84,7 @@ bool FDesktopFixture::Until(const std::function<bool()>& Done)
 
 bool FDesktopFixture::UntilStill()
 {
+	Running->RunFrame(); // what was done before is on its way to the picture then
 	return Until([this] { return Running->IsStill(); });
 }
 
