@@ -46,7 +46,7 @@ struct FUpdateCommand
 };
 
 /** The editor in windows, until the user closes it. */
-int RunWindows(int ArgumentCount, char** Arguments, const Host::FHeadlessOptions& Editor)
+int RunWindows(int ArgumentCount, char** Arguments, const Host::FHeadlessOptions& Editor, bool bMeasure)
 {
 #ifdef ZEF_WITH_DESKTOP
 	std::string Error = Host::WhyNoDisplay();
@@ -57,12 +57,14 @@ int RunWindows(int ArgumentCount, char** Arguments, const Host::FHeadlessOptions
 		Options.Plugin = Editor.Plugin;
 		Options.Endpoint = Editor.Endpoint;
 		Options.bVerbose = Editor.bVerbose;
+		Options.bMeasure = bMeasure;
 		Error = Host::RunDesktop(ArgumentCount, Arguments, Options);
 	}
 #else
 	(void)ArgumentCount;
 	(void)Arguments;
 	(void)Editor;
+	(void)bMeasure;
 	const std::string Error = "this program was built without the desktop; use --headless update";
 #endif
 	if (!Error.empty())
@@ -127,6 +129,8 @@ int main(int ArgumentCount, char** Arguments)
 	bool bHeadless = false;
 	App.add_flag(
 		"--headless", bHeadless, "Work without a display; needs a command, and is what the commands do in any case.");
+	bool bMeasure = false;
+	App.add_flag("--measure", bMeasure, "Open the window, print how long it took and how an orbit runs, and end");
 	App.fallthrough();
 	App.add_option("--project", Command.Editor.Project, "Project folder; made when it is not there")
 		->capture_default_str();
@@ -221,5 +225,5 @@ int main(int ArgumentCount, char** Arguments)
 			"or a script: zef-tandem --headless --script FILE\n");
 		return ExitFailure;
 	}
-	return RunWindows(ArgumentCount, Arguments, Command.Editor);
+	return RunWindows(ArgumentCount, Arguments, Command.Editor, bMeasure);
 }

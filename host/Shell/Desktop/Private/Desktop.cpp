@@ -2,6 +2,7 @@
 #include "Host/Desktop.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 
 #include "ConsoleServices.h"
@@ -12,11 +13,20 @@
 #include "ViewWorld.h"
 #include "WindowFrames.h"
 
+#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
+#include "Editor/ZEFTandemEditor.h"
+#include "Editor/ZEFTandemEditorModule.h"
+#include "EditorViewportClient.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/EditorSession.h"
 #include "Host/LevelEditorFrame.h"
 #include "Host/Toolkits.h"
+#include "Modules/ModuleManager.h"
 #include "Zef/LinkWatch.h"
+#include "ZEFTandemClientComponent.h"
+
+#include <algorithm>
+#include <cstdio>
 
 namespace Host
 {
@@ -208,8 +218,56 @@ bool FDesktop::IsStill() const
 	return Impl->World.Pictures->IsStill();
 }
 
+namespace
+{
+
+/** Turns a view once around and prints the pace. */
+void MeasureOrbit(FDesktop& Desktop)
+{
+	const auto Wait = [](const std::function<bool()>& Done)
+	{
+		QElapsedTimer Clock;
+		for (Clock.start(); !Done() && Clock.elapsed() < 60000;)
+		{
+			QApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+		}
+		return Done();
+	};
+	const TSharedPtr<FZEFTandemEditor> Editor = StaticCastSharedPtr<FZEFTandemEditor>(
+		FModuleManager::LoadModuleChecked<FZEFTandemEditorModule>(TEXT("ZEFTandemEditor")).CreateEditor());
+	bool bAnswered = false;
+	Editor->GetClient()->OnAvailabilityReceived.AddLambda(
+		[&bAnswered](const ZefTandemCore::TandemAvailability&) { bAnswered = true; });
+	Editor->GetClient()->SendData(ZefTandemCore::TandemMessage::RequestUpdate, ZefTandemCore::PackingOptions());
+	Editor->GetClient()->SendData(ZefTandemCore::TandemMessage::RequestAvailability);
+	if (!Wait([&] { return bAnswered; }) || !Wait([&] { return Desktop.IsStill(); }))
+	{
+		std::printf("orbit: no garment application answered\n");
+		return;
+	}
+	const TSharedPtr<FEditorViewportClient> Client = Editor->GetViewport()->GetViewportClient();
+	constexpr int Steps = 120;
+	std::vector<double> Frames;
+	QElapsedTimer Clock;
+	for (int Step = 0; Step < Steps; ++Step)
+	{
+		Client->SetViewRotation(FRotator(-15.0, 180.0 + 360.0 * Step / Steps, 0.0));
+		Client->Invalidate();
+		Clock.start();
+		Desktop.RunFrame();
+		QApplication::processEvents();
+		Frames.push_back(static_cast<double>(Clock.nsecsElapsed()) * 1e-6);
+	}
+	std::sort(Frames.begin(), Frames.end());
+	std::printf("orbit: window frame %.2f ms median, %.2f ms at most\n", Frames[Steps / 2], Frames.back());
+}
+
+} // namespace
+
 std::string RunDesktop(int ArgumentCount, char** Arguments, const FDesktopOptions& Options)
 {
+	QElapsedTimer SinceStart;
+	SinceStart.start();
 	QApplication Application(ArgumentCount, Arguments);
 	QApplication::setApplicationDisplayName("ZEF/KR Tandem");
 	QApplication::setDesktopFileName("zef-tandem");
@@ -217,7 +275,14 @@ std::string RunDesktop(int ArgumentCount, char** Arguments, const FDesktopOption
 	ApplyTheme(Application);
 	std::string Error;
 	const std::unique_ptr<FDesktop> Desktop = FDesktop::Open(Options, Error);
-	if (Desktop)
+	if (Desktop && Options.bMeasure)
+	{
+		QApplication::processEvents();
+		Desktop->RunFrame();
+		std::printf("start to interactive window: %.0f ms\n", static_cast<double>(SinceStart.nsecsElapsed()) * 1e-6);
+		MeasureOrbit(*Desktop);
+	}
+	else if (Desktop)
 	{
 		Desktop->Run();
 	}

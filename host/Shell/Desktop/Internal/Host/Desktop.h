@@ -22,6 +22,8 @@ struct FDesktopOptions
 	std::string Endpoint;
 	/** Print every line of the log, not warnings and errors alone. */
 	bool bVerbose = false;
+	/** Print how long the start took, orbit once around what an update brings, print what that took, and end. */
+	bool bMeasure = false;
 };
 
 /** One at a time in a process, on the thread of the QApplication, which exists before and after it. */
