@@ -31,6 +31,14 @@
 namespace Host
 {
 
+namespace
+{
+
+/** A viewport that nobody has shown for so many frames loses its picture and its thread. */
+constexpr std::uint64_t FramesOfUnusedPictures = 64;
+
+} // namespace
+
 class FDesktop::FImpl
 {
 public:
@@ -105,6 +113,10 @@ public:
 		bool bMoving = World.Pictures->Advance();
 		bInFrame = false;
 		World.ClearGraveyard();
+		if (Loop.FrameCount() % FramesOfUnusedPictures == 0)
+		{
+			World.Pictures->DropUnused();
+		}
 		if (!MainFrame())
 		{
 			RunLoop.quit();

@@ -39,6 +39,8 @@ public:
 
 	virtual void Paint(FViewport& Viewport, const FSceneView& View, const FViewDrawing& Drawing) override;
 
+	/** False for a viewport that was not painted yet, or has not been asked for in a while. */
+	bool Knows(const FViewport& Viewport) const { return Find(Viewport) != nullptr; }
 	/** The latest picture of a viewport; null before the first. */
 	const QImage& ImageOf(const FViewport& Viewport) const;
 	/** Why there is none, as one line; empty when all is well. */

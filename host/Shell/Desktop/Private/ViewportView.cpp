@@ -61,6 +61,10 @@ public:
 	{
 		const TSharedPtr<FSceneViewport> Target = Viewport.Pin();
 		const std::uint64_t Now = Target.IsValid() ? World.Pictures->VersionOf(*Target) : 0;
+		if (Target.IsValid() && !World.Pictures->Knows(*Target))
+		{
+			Target->Invalidate();
+		}
 		if (Now != ShownVersion)
 		{
 			ShownVersion = Now;
