@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Subjects/Subjects.h"
 
+#include "Engine/SkeletalMesh.h"
 #include "Rendering/SkeletalMeshLODModel.h"
 #include "Rivals/Rivals.h"
 #include "Support/Comparison.h"
@@ -76,6 +77,7 @@ void RunSections(FCase& Case)
 void RunAll(FCase& Case)
 {
 	ZEFEditorUtils::ZEFSurfaceMeshToSkeletalMeshData(Case.Record, TEXT("SkeletalMesh"), &Case.Data);
+	Case.Data.SkeletalMesh->GetResourceForRendering(); // the build that the conversion leaves pending
 }
 
 void RunRival(FCase& Case, std::size_t& OutUnique)

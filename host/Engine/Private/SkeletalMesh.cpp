@@ -191,11 +191,16 @@ void USkeletalMesh::Build()
 	{
 		RenderData = MakeShared<FSkeletalMeshRenderData>();
 	}
-	Host::BuildSkeletalMeshRenderData(*this, *RenderData);
+	bBuildPending = true;
 }
 
 FSkeletalMeshRenderData* USkeletalMesh::GetResourceForRendering() const
 {
+	if (bBuildPending)
+	{
+		Host::BuildSkeletalMeshRenderData(*this, *RenderData);
+		bBuildPending = false;
+	}
 	return RenderData.Get();
 }
 

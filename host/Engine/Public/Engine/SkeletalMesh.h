@@ -92,10 +92,13 @@ public:
 	/**
 	 * Makes render data from the imported model: for each level one render section for each section in the same order,
 	 * and the vertices of all sections one after the other. Nothing is welded, split, sorted or normalised.
+	 *
+	 * The work is put off until somebody asks for the result, as the engine's asynchronous build is: the builds that
+	 * follow each other while a mesh is made cost one.
 	 */
 	ENGINE_API void Build();
 
-	/** Null before the first Build. */
+	/** Null before the first Build; finishes a build that was put off. */
 	ENGINE_API virtual FSkeletalMeshRenderData* GetResourceForRendering() const override;
 
 	/** Builds again; components that show the mesh take its bounds and are drawn anew. */
@@ -114,6 +117,9 @@ private:
 
 	/** Null until the mesh is built. */
 	TSharedPtr<FSkeletalMeshRenderData> RenderData;
+
+	/** Whether RenderData is older than the last Build. */
+	mutable bool bBuildPending = false;
 
 	UPROPERTY(EditAnywhere, Category = Material)
 	TArray<FSkeletalMaterial> Materials;
