@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QDialog>
+#include <QSplitter>
 #include <QTabBar>
 #include <QTest>
 
@@ -214,6 +215,68 @@ TEST_F(Desktop, TabIsDraggedWithTheMouseIntoAWindowOfItsOwn)
 	QTest::mouseMove(Bar, Outside);
 	QTest::mouseRelease(Bar, Qt::LeftButton, Qt::NoModifier, Outside);
 	EXPECT_TRUE(Until([&] { return NumWindows() == Windows + 1 && Bar->count() == 1; }));
+}
+
+TEST_F(Desktop, ToolBarTabIsAsHighAsItsContentWhateverTheWindowsHeight)
+{
+	OpenEditor();
+	QWidget* const Frame = View()->window();
+	Frame->resize(1200, 700);
+	const TSharedPtr<SDockTab> Tab =
+		Editor()->GetAssociatedTabManager()->TryInvokeTab(FTabId(FName(TEXT("ZEFTandemEditor_SecondaryToolbar"))));
+	ASSERT_TRUE(Tab.IsValid());
+	const auto OuterSplitter = [this]
+	{
+		QSplitter* Outermost = nullptr;
+		for (QWidget* Above = View(); Above; Above = Above->parentWidget())
+		{
+			auto* const Splitter = qobject_cast<QSplitter*>(Above);
+			Outermost =
+				Splitter && Splitter->orientation() == Qt::Vertical && Splitter->count() == 2 ? Splitter : Outermost;
+		}
+		return Outermost;
+	};
+	ASSERT_NE(OuterSplitter(), nullptr);
+	const auto IsAsHighAsItsContent = [&]
+	{
+		const QWidget* const Part = OuterSplitter()->widget(0);
+		return Part->isVisible() && Part->height() < 50 &&
+			   Part->height() == std::max(Part->sizeHint().height(), Part->minimumHeight());
+	};
+	EXPECT_TRUE(Until(IsAsHighAsItsContent)) << OuterSplitter()->widget(0)->height();
+	SavePicture("desktop-tool-bar-tab");
+	const int Before = OuterSplitter()->widget(0)->height();
+	Frame->resize(1200, 1000);
+	EXPECT_TRUE(Until([&] { return OuterSplitter()->height() > 800; }));
+	EXPECT_EQ(OuterSplitter()->widget(0)->height(), Before);
+	EXPECT_FALSE(OuterSplitter()->handle(1)->isEnabled());
+}
+
+TEST_F(Desktop, ShortTabLabelsStayWholeWhereLongOnesGiveWay)
+{
+	OpenEditor();
+	QTabBar* Bar = nullptr;
+	for (QTabBar* const Candidate : View()->window()->findChildren<QTabBar*>())
+	{
+		Bar = Candidate->isVisible() && Candidate->count() == 2 ? Candidate : Bar;
+	}
+	ASSERT_NE(Bar, nullptr);
+	ASSERT_EQ(Bar->tabText(1), "Details");
+	EXPECT_EQ(Bar->tabToolTip(0), "Preview Scene Settings");
+	const auto Needed = [Bar](int Index) { return Bar->fontMetrics().horizontalAdvance(Bar->tabText(Index)); };
+	constexpr int Cross = 16;
+	QWidget* const Frame = View()->window();
+	Frame->resize(1400, 700);
+	ASSERT_TRUE(Until([&] { return Bar->tabRect(0).width() >= Needed(0) + Cross; }));
+	EXPECT_GE(Bar->tabRect(1).width(), Needed(1) + Cross);
+	SavePicture("desktop-tabs");
+
+	const int Roomy = Bar->tabRect(1).width();
+	Frame->resize(1000, 700);
+	ASSERT_TRUE(Until([&] { return Bar->tabRect(0).width() < Needed(0) + Cross; }));
+	EXPECT_EQ(Bar->tabRect(1).width(), Roomy);
+	EXPECT_LE(Bar->tabRect(1).right(), Bar->width());
+	SavePicture("desktop-narrow-tabs");
 }
 
 TEST_F(Desktop, ClosingTheWindowWhileATabIsDraggedIsSafe)

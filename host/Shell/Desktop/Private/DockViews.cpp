@@ -4,10 +4,10 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QSplitter>
 #include <QTabBar>
 #include <QToolButton>
 
+#include "SplitterView.h"
 #include "TabDrag.h"
 #include "Text.h"
 #include "Theme.h"
@@ -21,6 +21,26 @@ namespace Host
 
 namespace
 {
+
+constexpr int CrowdedTabPadding = 4;
+constexpr int NarrowestTab = 96; // below this the bar scrolls
+
+/** The width to which the widest ones have to shrink so that all fit into the room. */
+int LargestShare(std::vector<int> Widths, int Room)
+{
+	std::sort(Widths.begin(), Widths.end());
+	int Left = std::max(0, Room);
+	for (std::size_t Index = 0; Index < Widths.size(); ++Index)
+	{
+		const int Share = Left / static_cast<int>(Widths.size() - Index);
+		if (Widths[Index] > Share)
+		{
+			return Share;
+		}
+		Left -= Widths[Index];
+	}
+	return QWIDGETSIZE_MAX;
+}
 
 /** The row of tabs of a stack. */
 class FTabBar : public QTabBar
@@ -79,16 +99,49 @@ public:
 			if (Icons[static_cast<std::size_t>(Index)] != Brush)
 			{
 				Icons[static_cast<std::size_t>(Index)] = Brush;
-				setTabIcon(Index, World.Brushes.Icon(Brush));
+				ShowIcon(Index);
+				Fitted.clear();
 			}
 			const QString ToolTip = ToQString(Tab.GetToolTipText());
-			setTabToolTip(Index, ToolTip.isEmpty() ? Label : ToolTip);
+			const QString Whole = ToolTip.isEmpty() || ToolTip == Label ? Label : Label + "\n" + ToolTip;
+			if (tabToolTip(Index) != Whole)
+			{
+				setTabToolTip(Index, Whole);
+			}
 			if (Tab.IsForeground() && currentIndex() != Index)
 			{
 				setCurrentIndex(Index);
 			}
 		}
 		bFollowing = false;
+	}
+
+	/** Makes room for the labels where they do not fit otherwise. @param Room  width that the bar may take */
+	void FitInto(int Room)
+	{
+		QString Now = QString::number(Room);
+		for (int Index = 0; Index < count(); ++Index)
+		{
+			Now += '\n' + tabText(Index);
+		}
+		if (Now == Fitted)
+		{
+			return;
+		}
+		Fitted = Now;
+		for (const ECrowd Each : {ECrowd::None, ECrowd::NarrowPadding, ECrowd::NoPictures})
+		{
+			SetCrowd(Each);
+			int Wanted = 0;
+			for (int Index = 0; Index < count(); ++Index)
+			{
+				Wanted += tabSizeHint(Index).width();
+			}
+			if (Wanted <= Room)
+			{
+				break;
+			}
+		}
 	}
 
 	int32 IndexAt(const QPoint& Position) const
@@ -104,6 +157,19 @@ public:
 	}
 
 protected:
+	/** Long labels give way first: a label that is no longer than an equal share of the bar stays whole. */
+	QSize minimumTabSizeHint(int Index) const override
+	{
+		std::vector<int> Widths;
+		for (int Each = 0; Each < count(); ++Each)
+		{
+			Widths.push_back(tabSizeHint(Each).width());
+		}
+		const QSize Whole = tabSizeHint(Index);
+		return QSize(
+			std::min(Whole.width(), std::max(NarrowestTab, LargestShare(std::move(Widths), width()))), Whole.height());
+	}
+
 	void mousePressEvent(QMouseEvent* Event) override
 	{
 		Pressed = Event->button() == Qt::LeftButton ? tabAt(Event->position().toPoint()) : -1;
@@ -208,6 +274,39 @@ protected:
 	}
 
 private:
+	/** What has been given up for the sake of the labels. */
+	enum class ECrowd
+	{
+		None,
+		NarrowPadding,
+		NoPictures,
+	};
+
+	void SetCrowd(ECrowd NewCrowd)
+	{
+		if (NewCrowd == Crowd)
+		{
+			return;
+		}
+		Crowd = NewCrowd;
+		// A sheet of the widget's own has the style measure the tabs anew.
+		setStyleSheet(
+			Crowd == ECrowd::None
+				? QString()
+				: QString("QTabBar::tab { padding-left: %1px; padding-right: %1px; }").arg(CrowdedTabPadding));
+		for (int Index = 0; Index < count(); ++Index)
+		{
+			ShowIcon(Index);
+		}
+		updateGeometry();
+	}
+
+	void ShowIcon(int Index)
+	{
+		const FSlateBrush* const Brush = Icons[static_cast<std::size_t>(Index)];
+		setTabIcon(Index, Crowd == ECrowd::NoPictures ? QIcon() : World.Brushes.Icon(Brush));
+	}
+
 	TSharedPtr<SDockTab> TabOf(int Index) const
 	{
 		return Index >= 0 && Index < static_cast<int>(Tabs.size()) ? Tabs[static_cast<std::size_t>(Index)].Pin()
@@ -247,6 +346,8 @@ private:
 	QPoint PressedAt;
 	int Pressed = -1;
 	bool bFollowing = false;
+	ECrowd Crowd = ECrowd::None;
+	QString Fitted; // room and labels that the crowd was found for
 };
 
 class FStackView : public FWidgetView
@@ -299,11 +400,13 @@ protected:
 			Bar->setHidden(bHidden);
 		}
 		Corner->setVisible(bHidden);
+		Native()->setMinimumHeight(bHidden ? Corner->height() : 0); // which stays in reach over an empty tab
 		if (bHidden)
 		{
 			Corner->raise();
 		}
 		Bar->Follow(Stack);
+		Bar->FitInto(Native()->width());
 		const std::uint32_t Now = StructureVersion(Model);
 		if (!bTaken || Now != Structure)
 		{
@@ -340,151 +443,6 @@ private:
 	std::uint32_t Structure = 0;
 };
 
-/** A splitter that keeps the model's shares while its size changes. */
-class FSplitter : public QSplitter
-{
-public:
-	using QSplitter::QSplitter;
-
-	std::vector<double> Shares; // of the widgets that are seen; 0 for others
-
-	void ApplyShares()
-	{
-		double Sum = 0;
-		for (const double Share : Shares)
-		{
-			Sum += Share;
-		}
-		const int Room = orientation() == Qt::Horizontal ? width() : height();
-		if (Sum <= 0 || Room <= 0 || static_cast<int>(Shares.size()) != count())
-		{
-			return;
-		}
-		QList<int> Sizes;
-		for (const double Share : Shares)
-		{
-			Sizes << std::max(Share > 0 ? 1 : 0, qRound(Room * Share / Sum));
-		}
-		setSizes(Sizes);
-	}
-
-protected:
-	void resizeEvent(QResizeEvent* Event) override
-	{
-		QSplitter::resizeEvent(Event);
-		ApplyShares();
-	}
-};
-
-class FSplitterView : public FWidgetView
-{
-public:
-	FSplitterView(FViewWorld& InWorld, const TSharedRef<SWidget>& InModel, Qt::Orientation Orientation)
-		: FWidgetView(InWorld, InModel, new FSplitter(Orientation))
-	{
-		Splitter().setChildrenCollapsible(false);
-		Splitter().setHandleWidth(4);
-		const TWeakPtr<SWidget> Weak = InModel;
-		QObject::connect(&Splitter(), &QSplitter::splitterMoved, &Splitter(),
-			[this, Weak](int, int)
-			{
-				if (const TSharedPtr<SWidget> Model = Weak.Pin())
-				{
-					TellShares(static_cast<SDockSplitter&>(*Model));
-				}
-			});
-	}
-
-protected:
-	void FollowModel(SWidget& Model) override
-	{
-		SDockSplitter& Dock = static_cast<SDockSplitter&>(Model);
-		const std::uint32_t Now = StructureVersion(Model);
-		const bool bNew = !bTaken || Now != Structure;
-		if (bNew)
-		{
-			bTaken = true;
-			Structure = Now;
-			TakeNodes(Dock);
-		}
-		for (const std::unique_ptr<FWidgetView>& Node : Nodes)
-		{
-			Node->Follow();
-		}
-		std::vector<double> Shares;
-		for (int32 Index = 0; Index < Dock.NumNodes(); ++Index)
-		{
-			const TSharedRef<SDockNode> Node = Dock.GetNode(Index);
-			Shares.push_back(Node->HasOpenTabs() ? static_cast<double>(Node->GetSizeCoefficient()) : 0.0);
-		}
-		if (bNew || Shares != Splitter().Shares)
-		{
-			Splitter().Shares = Shares;
-			Splitter().ApplyShares();
-		}
-	}
-
-private:
-	FSplitter& Splitter() const { return *static_cast<FSplitter*>(Native()); }
-
-	void TakeNodes(SDockSplitter& Dock)
-	{
-		std::vector<std::unique_ptr<FWidgetView>> Former = std::move(Nodes);
-		Nodes.clear();
-		for (int32 Index = 0; Index < Dock.NumNodes(); ++Index)
-		{
-			const TSharedRef<SDockNode> Node = Dock.GetNode(Index);
-			const auto Known = std::find_if(Former.begin(), Former.end(),
-				[&Node](const std::unique_ptr<FWidgetView>& View) { return View && View->Model() == Node; });
-			Nodes.push_back(Known != Former.end() ? std::move(*Known) : World.Make(Node));
-			Splitter().insertWidget(Index, Nodes.back()->Native());
-		}
-		Former.clear(); // takes its native widgets out, which the splitter counts
-	}
-
-	void TellShares(SDockSplitter& Dock)
-	{
-		const QList<int> Sizes = Splitter().sizes();
-		if (Sizes.size() != Dock.NumNodes())
-		{
-			return;
-		}
-		double Pixels = 0;
-		double Sum = 0;
-		for (int32 Index = 0; Index < Dock.NumNodes(); ++Index)
-		{
-			if (Dock.GetNode(Index)->HasOpenTabs())
-			{
-				Pixels += Sizes[Index];
-				Sum += static_cast<double>(Dock.GetNode(Index)->GetSizeCoefficient());
-			}
-		}
-		TArray<float> Shares;
-		for (int32 Index = 0; Index < Dock.NumNodes(); ++Index)
-		{
-			const TSharedRef<SDockNode> Node = Dock.GetNode(Index);
-			// What takes no room keeps its share for later.
-			const double Share = Node->HasOpenTabs() && Pixels > 0 ? Sum * std::max(1, Sizes[Index]) / Pixels
-																   : static_cast<double>(Node->GetSizeCoefficient());
-			Shares.Add(static_cast<float>(Share));
-		}
-		if (ResizeSplitter(Dock, Shares))
-		{
-			Splitter().Shares.clear();
-			for (int32 Index = 0; Index < Dock.NumNodes(); ++Index)
-			{
-				const TSharedRef<SDockNode> Node = Dock.GetNode(Index);
-				Splitter().Shares.push_back(
-					Node->HasOpenTabs() ? static_cast<double>(Node->GetSizeCoefficient()) : 0.0);
-			}
-		}
-	}
-
-	std::vector<std::unique_ptr<FWidgetView>> Nodes;
-	bool bTaken = false;
-	std::uint32_t Structure = 0;
-};
-
 } // namespace
 
 std::unique_ptr<FWidgetView> MakeDockView(FViewWorld& World, const TSharedRef<SWidget>& Model)
@@ -493,12 +451,7 @@ std::unique_ptr<FWidgetView> MakeDockView(FViewWorld& World, const TSharedRef<SW
 	{
 		return std::make_unique<FStackView>(World, Model);
 	}
-	if (const auto* const Splitter = dynamic_cast<const SDockSplitter*>(&Model.Get()))
-	{
-		return std::make_unique<FSplitterView>(
-			World, Model, Splitter->GetOrientation() == Orient_Horizontal ? Qt::Horizontal : Qt::Vertical);
-	}
-	return nullptr;
+	return dynamic_cast<const SDockSplitter*>(&Model.Get()) ? MakeSplitterView(World, Model) : nullptr;
 }
 
 FDockTarget DockTargetAt(const FViewWorld& World, QWidget* Native)
