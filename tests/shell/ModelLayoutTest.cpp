@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ModelLayout.h"
 
+#include "Pictures.h"
+#include "ViewWorld.h"
+#include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SUniformGridPanel.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -112,5 +117,61 @@ TEST(ModelLayout, TakesANewPlaceAtOnce)
 	Panel.Layout->SetPlace(0, Middle);
 	Panel.Layout->activate();
 	EXPECT_EQ(Child->geometry(), QRect(45, 45, 10, 10));
+}
+
+FPlace Cell(int Column, int Row)
+{
+	FPlace Place;
+	Place.Column = Column;
+	Place.Row = Row;
+	return Place;
+}
+
+TEST(ModelLayout, GivesAllCellsOfAGridTheSizeOfTheLargest)
+{
+	FPanel Panel(EPanelKind::Grid);
+	QWidget* const First = Panel.Add(30, 40, Cell(0, 0));
+	QWidget* const Last = Panel.Add(50, 10, Cell(2, 1));
+	EXPECT_EQ(Panel.Window.sizeHint(), QSize(150, 80));
+	Panel.Show(301, 100);
+	EXPECT_EQ(First->geometry(), QRect(0, 0, 100, 50));
+	EXPECT_EQ(Last->geometry(), QRect(201, 50, 100, 50));
+}
+
+TEST(ModelLayout, KeepsTheLeastSizeOfACellAndCountsOnlyColumnsWithSomethingToSee)
+{
+	FPanel Panel(EPanelKind::Grid);
+	Panel.Add(30, 10, Cell(0, 0));
+	QWidget* const Far = Panel.Add(30, 10, Cell(3, 0));
+	Panel.Layout->SetSmallestCell(QSize(80, 24));
+	EXPECT_EQ(Panel.Window.sizeHint(), QSize(320, 24));
+	Far->hide();
+	Panel.Layout->activate();
+	EXPECT_EQ(Panel.Window.sizeHint(), QSize(80, 24));
+}
+
+TEST(ModelLayout, LaysAPanelOfTheModelOutAsAGrid)
+{
+	const TSharedRef<SUniformGridPanel> Grid =
+		SNew(SUniformGridPanel)
+			.SlotPadding(FMargin(2.0f, 3.0f))
+			.MinDesiredSlotWidth(96.0f)
+			.MinDesiredSlotHeight(34.0f) +
+		SUniformGridPanel::Slot(0, 0)[SNew(SBox)] +
+		SUniformGridPanel::Slot(1, 1).HAlign(HAlign_Right)[SNew(SBox).WidthOverride(20.0f)];
+	FViewWorld World([] {});
+	QWidget Window;
+	{
+		const std::unique_ptr<FWidgetView> View = World.Make(Grid);
+		View->Native()->setParent(&Window);
+		View->Follow();
+		EXPECT_EQ(View->Native()->sizeHint(), QSize(200, 80));
+		View->Native()->resize(200, 80);
+		Window.show();
+		View->Native()->layout()->activate();
+		EXPECT_EQ(World.ViewOf(*Grid->GetChildren()->GetChildAt(0))->Native()->geometry(), QRect(2, 3, 96, 34));
+		EXPECT_EQ(World.ViewOf(*Grid->GetChildren()->GetChildAt(1))->Native()->geometry(), QRect(178, 43, 20, 34));
+	}
+	World.ClearGraveyard();
 }
 } // namespace

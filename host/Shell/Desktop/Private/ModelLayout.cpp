@@ -85,6 +85,15 @@ void FModelLayout::SetPlace(int Index, const FPlace& Place)
 	}
 }
 
+void FModelLayout::SetSmallestCell(const QSize& Size)
+{
+	if (SmallestCell != Size)
+	{
+		SmallestCell = Size;
+		invalidate();
+	}
+}
+
 void FModelLayout::addItem(QLayoutItem* Item)
 {
 	Entries.push_back({Item, FPlace()});
@@ -129,9 +138,28 @@ QSize FModelLayout::Total(QSize (QLayoutItem::*SizeOf)() const) const
 			return QSize(Sum.width(), Largest.height());
 		case EPanelKind::Column:
 			return QSize(Largest.width(), Sum.height());
+		case EPanelKind::Grid:
+		{
+			const QSize Cells = NumCells();
+			const QSize Cell = Largest.expandedTo(SmallestCell);
+			return QSize(Cell.width() * Cells.width(), Cell.height() * Cells.height());
+		}
 		default:
 			return Largest;
 	}
+}
+
+QSize FModelLayout::NumCells() const
+{
+	QSize Cells(0, 0);
+	for (const FEntry& Entry : Entries)
+	{
+		if (!Entry.Item->isEmpty())
+		{
+			Cells = Cells.expandedTo(QSize(Entry.Place.Column + 1, Entry.Place.Row + 1));
+		}
+	}
+	return Cells;
 }
 
 QSize FModelLayout::sizeHint() const
@@ -159,9 +187,34 @@ void FModelLayout::invalidate()
 	QLayout::invalidate();
 }
 
+void FModelLayout::FillCells(const QRect& Rect)
+{
+	const QSize Cells = NumCells();
+	// Edges are rounded, not sizes, so that the cells fill the panel to the pixel.
+	const auto Edge = [](int From, int Length, int Index, int Count)
+	{ return From + qRound(static_cast<double>(Length) * Index / Count); };
+	for (const FEntry& Entry : Entries)
+	{
+		if (!Entry.Item->isEmpty())
+		{
+			const FPlace& Place = Entry.Place;
+			const int X = Edge(Rect.x(), Rect.width(), Place.Column, Cells.width());
+			const int Y = Edge(Rect.y(), Rect.height(), Place.Row, Cells.height());
+			const int Right = Edge(Rect.x(), Rect.width(), Place.Column + 1, Cells.width());
+			const int Bottom = Edge(Rect.y(), Rect.height(), Place.Row + 1, Cells.height());
+			Entry.Item->setGeometry(PlaceIn(QRect(X, Y, Right - X, Bottom - Y), Place, *Entry.Item));
+		}
+	}
+}
+
 void FModelLayout::setGeometry(const QRect& Rect)
 {
 	QLayout::setGeometry(Rect);
+	if (Kind == EPanelKind::Grid)
+	{
+		FillCells(Rect);
+		return;
+	}
 	if (Kind == EPanelKind::Stack)
 	{
 		for (const FEntry& Entry : Entries)

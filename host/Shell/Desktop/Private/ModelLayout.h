@@ -15,6 +15,7 @@ enum class EPanelKind
 	Row,
 	Column,
 	Stack, // all on top of each other, the last in front
+	Grid,  // in cells that are all of one size
 };
 
 enum class EPlaceAlign
@@ -33,6 +34,9 @@ struct FPlace
 	EPlaceAlign Vertical = EPlaceAlign::Fill;
 	/** Share of what is left along a row or a column; 0: as much as the child wants. */
 	double Stretch = 0;
+	/** Of a grid, from 0; a cell may hold several. */
+	int Column = 0;
+	int Row = 0;
 
 	bool operator==(const FPlace&) const = default;
 };
@@ -49,6 +53,8 @@ public:
 	void Clear();
 	/** @param Index  in the order of Add */
 	void SetPlace(int Index, const FPlace& Place);
+	/** Of a grid: no cell wants less. */
+	void SetSmallestCell(const QSize& Size);
 
 	void addItem(QLayoutItem* Item) override;
 	int count() const override { return static_cast<int>(Entries.size()); }
@@ -68,8 +74,12 @@ private:
 	};
 
 	QSize Total(QSize (QLayoutItem::*SizeOf)() const) const;
+	/** Columns and rows up to the last one with something to see. */
+	QSize NumCells() const;
+	void FillCells(const QRect& Rect);
 
 	EPanelKind Kind;
+	QSize SmallestCell{0, 0};
 	std::vector<FEntry> Entries;
 	// Of the time since the last change: layouts ask each other over and over, twice as often on each level.
 	mutable QSize Hint;

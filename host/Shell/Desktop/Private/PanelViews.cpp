@@ -6,6 +6,7 @@
 
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Layout/SBox.h"
+#include "Widgets/Layout/SUniformGridPanel.h"
 #include "Widgets/SBoxPanel.h"
 
 #include <QPainter>
@@ -95,6 +96,41 @@ private:
 	int LastHeight = -1;
 };
 
+class FUniformGridView : public FPanelView
+{
+public:
+	FUniformGridView(FViewWorld& InWorld, const TSharedRef<SWidget>& InModel)
+		: FPanelView(InWorld, InModel, EPanelKind::Grid)
+	{
+	}
+
+protected:
+	void FollowModel(SWidget& Model) override
+	{
+		const SUniformGridPanel& Grid = static_cast<const SUniformGridPanel&>(Model);
+		const FMargin Padding = Grid.GetSlotPadding();
+		SlotPadding =
+			QMargins(qRound(Padding.Left), qRound(Padding.Top), qRound(Padding.Right), qRound(Padding.Bottom));
+		// The least sizes are those of the children, without what lies around them.
+		Layout->SetSmallestCell(QSize(qRound(Grid.GetMinDesiredSlotWidth()) + SlotPadding.left() + SlotPadding.right(),
+			qRound(Grid.GetMinDesiredSlotHeight()) + SlotPadding.top() + SlotPadding.bottom()));
+		FPanelView::FollowModel(Model);
+	}
+
+	FPlace PlaceOf(const SWidget& Model, int32 Index) const override
+	{
+		const SUniformGridPanel::FSlot& Slot = static_cast<const SUniformGridPanel&>(Model).GetSlot(Index);
+		FPlace Place = FPanelView::PlaceOf(Model, Index);
+		Place.Padding += SlotPadding;
+		Place.Column = std::max(0, Slot.GetColumn());
+		Place.Row = std::max(0, Slot.GetRow());
+		return Place;
+	}
+
+private:
+	QMargins SlotPadding;
+};
+
 } // namespace
 
 std::unique_ptr<FWidgetView> MakePanelView(FViewWorld& World, const TSharedRef<SWidget>& Model)
@@ -111,6 +147,10 @@ std::unique_ptr<FWidgetView> MakePanelView(FViewWorld& World, const TSharedRef<S
 	if (dynamic_cast<const SBox*>(&Model.Get()))
 	{
 		return std::make_unique<FSizedView>(World, Model);
+	}
+	if (dynamic_cast<const SUniformGridPanel*>(&Model.Get()))
+	{
+		return std::make_unique<FUniformGridView>(World, Model);
 	}
 	return nullptr;
 }

@@ -28,18 +28,6 @@ EPlaceAlign ToAlign(AlignmentType Alignment, AlignmentType Begin, AlignmentType 
 	return Alignment == End ? EPlaceAlign::End : EPlaceAlign::Fill;
 }
 
-FPlace PlaceOf(const SWidget& Parent, int32 Index)
-{
-	const FSlotLayout Slot = SlotLayout(Parent, Index);
-	FPlace Place;
-	Place.Padding = QMargins(
-		qRound(Slot.Padding.Left), qRound(Slot.Padding.Top), qRound(Slot.Padding.Right), qRound(Slot.Padding.Bottom));
-	Place.Horizontal = ToAlign(Slot.HAlign, HAlign_Left, HAlign_Center, HAlign_Right);
-	Place.Vertical = ToAlign(Slot.VAlign, VAlign_Top, VAlign_Center, VAlign_Bottom);
-	Place.Stretch = Slot.Size.SizeRule == FSizeParam::SizeRule_Stretch ? static_cast<double>(Slot.Size.Value) : 0.0;
-	return Place;
-}
-
 } // namespace
 
 FWidgetView::FWidgetView(FViewWorld& InWorld, const TSharedRef<SWidget>& InModel, QWidget* InNative)
@@ -114,6 +102,18 @@ FPanelView::FPanelView(FViewWorld& InWorld, const TSharedRef<SWidget>& InModel, 
 }
 
 FPanelView::~FPanelView() = default;
+
+FPlace FPanelView::PlaceOf(const SWidget& Model, int32 Index) const
+{
+	const FSlotLayout Slot = SlotLayout(Model, Index);
+	FPlace Place;
+	Place.Padding = QMargins(
+		qRound(Slot.Padding.Left), qRound(Slot.Padding.Top), qRound(Slot.Padding.Right), qRound(Slot.Padding.Bottom));
+	Place.Horizontal = ToAlign(Slot.HAlign, HAlign_Left, HAlign_Center, HAlign_Right);
+	Place.Vertical = ToAlign(Slot.VAlign, VAlign_Top, VAlign_Center, VAlign_Bottom);
+	Place.Stretch = Slot.Size.SizeRule == FSizeParam::SizeRule_Stretch ? static_cast<double>(Slot.Size.Value) : 0.0;
+	return Place;
+}
 
 void FPanelView::TakeChildren(SWidget& Model)
 {

@@ -62,11 +62,14 @@ public:
 
 protected:
 	void FollowModel(SWidget& Model) override;
+	/** Where the panel puts one of its children. @param Index  as in GetChildren() */
+	virtual FPlace PlaceOf(const SWidget& Model, int32 Index) const;
+
+	FModelLayout* const Layout; // the native widget's
 
 private:
 	void TakeChildren(SWidget& Model);
 
-	FModelLayout* Layout; // the native widget's
 	std::vector<std::unique_ptr<FWidgetView>> Children;
 	bool bTaken = false;
 	std::uint32_t Structure = 0;
