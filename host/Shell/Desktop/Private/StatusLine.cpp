@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StatusLine.h"
 
+#include "LinkDoctor.h"
 #include "Theme.h"
 #include "Zef/Address.h"
 #include "Zef/LinkWatch.h"
@@ -15,7 +16,6 @@ namespace
 {
 
 constexpr const char* ChannelName = "Tandem"; // the one that editors of the plug-in use
-constexpr const char* StartAdvice = "start ZEF or KR, or for a try: zef-peer serve";
 
 QColor ColorOf(FLinkLine::ELight Light)
 {
@@ -33,7 +33,14 @@ QColor ColorOf(FLinkLine::ELight Light)
 	return Theme::SubduedText;
 }
 
-FLinkLine Describe(const Zef::FLinkStatus& Status)
+/** What to do, and before it what is the case where that is more than that nobody is there. */
+QString Summary(const Zef::FLinkReason& Reason)
+{
+	const bool bNobody = Reason.Kind == Zef::ELinkReason::NobodyServes || Reason.Kind == Zef::ELinkReason::StaleSocket;
+	return QString::fromStdString(bNobody ? Reason.Advice() : Zef::ToString(Reason));
+}
+
+FLinkLine Describe(const Zef::FLinkStatus& Status, FLinkDoctor* Doctor)
 {
 	FLinkLine Line;
 	Line.Address = QString::fromStdString(Status.Address);
@@ -50,9 +57,13 @@ FLinkLine Describe(const Zef::FLinkStatus& Status)
 			break;
 		case Zef::ELinkState::Absent:
 			Line.Light = FLinkLine::ELight::Bad;
-			Line.State = QString("no garment application: ") + StartAdvice;
-			Line.Advice = Detail;
-			break;
+			{
+				Zef::FLinkReason Reason = Doctor ? Doctor->Ask(Status.Address, ChannelName) : Zef::FLinkReason();
+				Reason = Reason ? Reason : Status.Reason;
+				Line.State = "no garment application. " + (Reason ? Summary(Reason) : Detail);
+				Line.Advice = Reason ? QString::fromStdString(Zef::ToString(Reason)) : Detail;
+				break;
+			}
 		case Zef::ELinkState::Up:
 			Line.Light = FLinkLine::ELight::Good;
 			Line.State = "connected to " + Detail;
@@ -68,12 +79,12 @@ FLinkLine Describe(const Zef::FLinkStatus& Status)
 
 } // namespace
 
-FLinkLine DescribeLink()
+FLinkLine DescribeLink(FLinkDoctor* Doctor)
 {
 	const std::vector<Zef::FLinkStatus> Statuses = Zef::LinkStatuses();
 	if (!Statuses.empty())
 	{
-		return Describe(Statuses.back());
+		return Describe(Statuses.front(), Doctor); // the doctor has one too, after it
 	}
 	FLinkLine Line;
 	const Zef::TResult<Zef::FAddress> Address = Zef::AddressOfChannel(ChannelName);
@@ -89,7 +100,8 @@ FLinkLine DescribeLink()
 }
 
 FStatusLine::FStatusLine()
-	: Light(new QLabel)
+	: Doctor(FLinkDoctor::Shared())
+	, Light(new QLabel)
 	, Address(new QLabel)
 	, State(new QLabel)
 {
@@ -127,9 +139,11 @@ FStatusLine::FStatusLine()
 	Follow();
 }
 
+FStatusLine::~FStatusLine() = default;
+
 void FStatusLine::Follow()
 {
-	const FLinkLine Line = DescribeLink();
+	const FLinkLine Line = DescribeLink(Doctor.get());
 	if (Line == Shown)
 	{
 		return;

@@ -2,7 +2,11 @@
 /** The line at the foot of a window: the link's address and how it stands. */
 #pragma once
 
+#include "Zef/LinkReason.h"
+
 #include <QWidget>
+
+#include <memory>
 
 class QLabel;
 
@@ -29,19 +33,27 @@ struct FLinkLine
 	bool operator==(const FLinkLine&) const = default;
 };
 
-/** Of the links of this process, or of the channel that an editor would use when there is none. */
-FLinkLine DescribeLink();
+class FLinkDoctor;
+
+/**
+ * Of the first link of this process, or of the channel that an editor would use when there is none.
+ *
+ * @param Doctor  asked why nobody answers; null: what the link itself knows is said
+ */
+FLinkLine DescribeLink(FLinkDoctor* Doctor = nullptr);
 
 class FStatusLine : public QWidget
 {
 public:
 	FStatusLine();
+	~FStatusLine() override;
 
 	/** Takes over how the link stands now. Once a frame. */
 	void Follow();
 	const FLinkLine& Line() const { return Shown; }
 
 private:
+	const std::shared_ptr<FLinkDoctor> Doctor;
 	FLinkLine Shown;
 	QLabel* Light;
 	QLabel* Address;
