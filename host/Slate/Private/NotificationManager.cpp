@@ -4,6 +4,7 @@
 
 #include "Host/Clock.h"
 #include "Host/Notifications.h"
+#include "Styling/AppStyle.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace
@@ -14,6 +15,7 @@ Host::INotificationObserver* Observer = nullptr;
 void SNotificationItem::Construct(const FArguments&, const FNotificationInfo& InInfo)
 {
 	Info = InInfo;
+	StartTime = Host::AppTime();
 	ChildSlot[SNew(STextBlock).Text(Info.Text)];
 }
 
@@ -149,9 +151,33 @@ struct FNotificationManagerAccess
 		TArray<Host::FStandingNotification> Result;
 		for (const TSharedRef<SNotificationItem>& Item : Manager.Items)
 		{
-			Result.Add({Item->GetText(), Item->Info.ForWindow, Item->EndTime});
+			Result.Add({Item->GetText(), Item->Info.ForWindow, Item->EndTime, Item, Item->Info.ButtonDetails,
+				ImageOf(*Item), OpacityOf(*Item),
+				Item->Info.bUseThrobber && Item->CompletionState == SNotificationItem::CS_Pending});
 		}
 		return Result;
+	}
+
+	static const FSlateBrush* ImageOf(const SNotificationItem& Item)
+	{
+		const bool bDecided =
+			Item.CompletionState == SNotificationItem::CS_Success || Item.CompletionState == SNotificationItem::CS_Fail;
+		if (Item.Info.bUseSuccessFailIcons && bDecided)
+		{
+			return FAppStyle::GetBrush(Item.CompletionState == SNotificationItem::CS_Success
+										   ? TEXT("NotificationList.SuccessImage")
+										   : TEXT("NotificationList.FailImage"));
+		}
+		return Item.Info.Image;
+	}
+
+	static float OpacityOf(const SNotificationItem& Item)
+	{
+		const auto Part = [](double Seconds, float Duration)
+		{ return Duration > 0.0f ? FMath::Clamp(static_cast<float>(Seconds / Duration), 0.0f, 1.0f) : 1.0f; };
+		const double Now = Host::AppTime();
+		const float In = Part(Now - Item.StartTime, Item.Info.FadeInDuration);
+		return Item.EndTime < 0.0 ? In : FMath::Min(In, Part(Item.EndTime - Now, Item.Info.FadeOutDuration));
 	}
 
 	static TArray<Host::FProgressState> Progresses()

@@ -110,7 +110,7 @@ public:
 		Session.Engine().Tick(Seconds);
 		FollowFocus();
 		Windows.Follow();
-		bool bMoving = World.Pictures->Advance();
+		const bool bMoving = World.Pictures->Advance() || Windows.IsMoving();
 		bInFrame = false;
 		World.ClearGraveyard();
 		if (Loop.FrameCount() % FramesOfUnusedPictures == 0)

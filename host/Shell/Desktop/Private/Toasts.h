@@ -2,40 +2,40 @@
 /** Notifications in the lower right corner of a window. */
 #pragma once
 
-#include <QPointer>
 #include <QWidget>
 
 #include <vector>
 
+class SWindow;
+
 namespace Host
 {
+
+class FToast;
+class FViewWorld;
 
 /** Shows the notifications that stand and the progresses that run, one below the other, over the window's content. */
 class FToasts : public QWidget
 {
 public:
 	/** @param Window  its own, and what it covers */
-	explicit FToasts(QWidget* Window);
+	FToasts(FViewWorld& InWorld, QWidget* Window);
 
-	/** Takes over what the model holds now. Once a frame. */
-	void Follow();
+	/**
+	 * Takes over what the model holds now. Once a frame.
+	 *
+	 * @param Model  that of the window; notifications for another window are left out
+	 */
+	void Follow(const SWindow& Model);
 	/** Moves to the corner of the window. @param BottomMargin  what to leave free below */
 	void Settle(int BottomMargin);
+	/** A notification fades in or out. */
+	bool IsFading() const { return bFading; }
 
 private:
-	struct FShown
-	{
-		QString Text;
-		int Done = -1;
-		int Total = -1; // -1: no progress
-
-		bool operator==(const FShown&) const = default;
-	};
-
-	void Rebuild(const std::vector<FShown>& Wanted);
-
-	std::vector<FShown> Shown;
-	int LastBottomMargin = 0;
+	FViewWorld& World;
+	std::vector<FToast*> Toasts; // of this widget, from top to bottom
+	bool bFading = false;
 };
 
 } // namespace Host

@@ -22,6 +22,7 @@
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SWindow.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Host
@@ -108,7 +109,7 @@ void FWindowFrame::MakeMain()
 {
 	Status = new FStatusLine;
 	layout()->addWidget(Status);
-	Toasts = new FToasts(this);
+	Toasts = new FToasts(World, this);
 }
 
 void FWindowFrame::Follow()
@@ -129,7 +130,7 @@ void FWindowFrame::Follow()
 	if (Status)
 	{
 		Status->Follow();
-		Toasts->Follow();
+		Toasts->Follow(*Current);
 		Toasts->Settle(Status->height());
 	}
 	if (Current->IsAutosized() && isVisible())
@@ -143,6 +144,11 @@ void FWindowFrame::Follow()
 		resize(qRound(Wanted.X), qRound(Wanted.Y));
 		TellPlace(); // what the screen made of it
 	}
+}
+
+bool FWindowFrame::IsMoving() const
+{
+	return Toasts && Toasts->IsFading();
 }
 
 void FWindowFrame::FollowMenuBar(const TSharedRef<SWindow>& Current)
@@ -441,6 +447,12 @@ void FWindowFrames::Follow()
 	{
 		Content->Follow();
 	}
+}
+
+bool FWindowFrames::IsMoving() const
+{
+	return std::any_of(Frames.begin(), Frames.end(),
+		[](const auto& Item) { return Item.second && Item.second->isVisible() && Item.second->IsMoving(); });
 }
 
 } // namespace Host

@@ -29,6 +29,8 @@ public:
 	/** Adds the status line and the toasts. */
 	void MakeMain();
 	void Follow();
+	/** It changes by itself from frame to frame. */
+	bool IsMoving() const;
 	TSharedPtr<SWindow> Model() const { return WeakModel.Pin(); }
 	/** Ends the window without asking the model. */
 	void CloseForGood();
@@ -78,6 +80,8 @@ public:
 
 	/** Once a frame. */
 	void Follow();
+	/** A window changes by itself from frame to frame. */
+	bool IsMoving() const;
 	/** The frame of a window; null when it is not on the screen. */
 	FWindowFrame* FrameOf(const TSharedPtr<SWindow>& Window) const;
 	/** A modal window of the model waits. */

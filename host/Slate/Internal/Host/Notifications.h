@@ -14,6 +14,14 @@ struct FStandingNotification
 	TSharedPtr<SWindow> ForWindow;
 	/** When it goes, on the application's clock; negative when it stays until told. */
 	double EndTime;
+	TSharedPtr<SNotificationItem> Item;
+	TArray<FNotificationButtonInfo> Buttons;
+	/** Of the completion state, or its own; null for none. Not owned. */
+	const FSlateBrush* Image;
+	/** 0 to 1, while it fades in and out. */
+	float Opacity;
+	/** Something turns while it is pending. */
+	bool bThrobber;
 };
 
 struct FProgressState

@@ -82,6 +82,8 @@ private:
 
 	FNotificationInfo Info = FNotificationInfo(FText());
 	ECompletionState CompletionState = CS_None;
-	/** On the application's clock; negative while nothing ends the notification. */
+	/** On the application's clock, as are all times. */
+	double StartTime = 0.0;
+	/** Negative while nothing ends the notification. */
 	double EndTime = -1.0;
 };
