@@ -2,6 +2,7 @@
 #include "Components/PrimitiveComponent.h"
 #include "Containers/StringConv.h"
 #include "Editor/Widgets/TandemTree/IZEFTandemTree.h"
+#include "Editor/Widgets/TandemViewport/SZEFTandemEditorViewport.h"
 #include "Editor/ZEFTandemEditor.h"
 #include "EditorDriver.h"
 #include "Framework/Docking/TabManager.h"
@@ -151,12 +152,21 @@ private:
 		return {};
 	}
 
-	/** A button without a label by its tool tip. */
+	/** A button without a label by its tool tip. The tool bar over the view is the view's own. */
 	void PrintToolBar()
 	{
+		TArray<TSharedRef<SMultiBoxItem>> OfViewport;
+		if (const TSharedPtr<SZEFTandemEditorViewport> Viewport = Editor.GetEditor()->GetViewport())
+		{
+			OfViewport = GetMultiBoxItems(Viewport.ToSharedRef());
+		}
 		for (const TSharedRef<SMultiBoxItem>& Item :
 			GetMultiBoxItems(Editor.GetEditor()->GetToolkitHost()->GetParentWidget()))
 		{
+			if (OfViewport.Contains(Item))
+			{
+				continue;
+			}
 			if (Item->GetKind() == EMultiBoxItem::Button || Item->GetKind() == EMultiBoxItem::ComboButton)
 			{
 				const FText Label = Item->GetLabel();
