@@ -124,6 +124,13 @@ void FDesktopFixture::Click(const QString& Name)
 	QTest::mouseClick(Button, Qt::LeftButton);
 }
 
+void FDesktopFixture::FocusView()
+{
+	View()->window()->activateWindow();
+	View()->setFocus();
+	ASSERT_TRUE(Until([this] { return View()->hasFocus(); }));
+}
+
 void FDesktopFixture::WithNextDialog(std::function<void(QDialog&)> Act)
 {
 	QTimer::singleShot(0, qApp,

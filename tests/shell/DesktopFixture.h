@@ -43,6 +43,8 @@ protected:
 	void Click(const QString& Name);
 	/** The 3D view. */
 	QWidget* View() const { return Named("Viewport"); }
+	/** Gives it the keyboard, and its window too where no window manager does. */
+	void FocusView();
 	/** Does something to the dialog that opens next, as soon as it stands. */
 	void WithNextDialog(std::function<void(QDialog&)> Act);
 	static QAbstractButton* ButtonOf(QWidget& Parent, const QString& Text);

@@ -117,7 +117,7 @@ TEST_F(Desktop, DeleteKeyInTheViewRemovesTheSelectedGarment)
 	StartPeer();
 	OpenEditor();
 	Update();
-	View()->setFocus();
+	FocusView();
 	Editor()->SetSelectedObjects(Editor()->GetObjectComponents(2), true);
 	QTest::keyClick(View(), Qt::Key_Delete);
 	EXPECT_TRUE(Until([this] { return NumObjects(2) == 0; }));

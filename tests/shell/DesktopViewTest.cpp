@@ -60,7 +60,7 @@ TEST_F(DesktopView, KeyFFramesTheSelection)
 	const FBox Box = Editor()->GetObjectComponents(4)[0]->Bounds.GetBox();
 	const auto Distance = [&] { return (Client()->GetViewLocation() - Box.GetCenter()).Size(); };
 	ASSERT_GT(Distance(), 2500.0);
-	View()->setFocus();
+	FocusView();
 	QTest::keyClick(View(), Qt::Key_F);
 	EXPECT_TRUE(Until([&] { return Distance() < 1500.0; })) << Distance();
 	// The middle of what was framed lies straight ahead.
