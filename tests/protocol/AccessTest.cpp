@@ -21,7 +21,7 @@ TEST(Access, AnEditorOfAnotherUserIsCutOffBeforeItIsHeard)
 {
 	if (!CanBecomeAnotherUser())
 	{
-		GTEST_SKIP() << "only root can act as another user";
+		GTEST_SKIP() << "only root, and not under ThreadSanitizer, can act as another user";
 	}
 	const FTestFolder Folder;
 	FApplication Application(Folder.Socket());
@@ -57,7 +57,7 @@ TEST(Access, AnApplicationOfAnotherUserHearsNoHello)
 {
 	if (!CanBecomeAnotherUser())
 	{
-		GTEST_SKIP() << "only root can act as another user";
+		GTEST_SKIP() << "only root, and not under ThreadSanitizer, can act as another user";
 	}
 	const FTestFolder Folder;
 	chmod(Folder.Path.c_str(), 0777);
@@ -85,7 +85,7 @@ TEST(Access, ASocketFileOfAnotherUserIsNotConnectedTo)
 {
 	if (!CanBecomeAnotherUser())
 	{
-		GTEST_SKIP() << "only root can act as another user";
+		GTEST_SKIP() << "only root, and not under ThreadSanitizer, can act as another user";
 	}
 	const FTestFolder Folder;
 	FApplication Application(Folder.Socket());
@@ -112,7 +112,7 @@ TEST(Access, AnotherUserOnALoopbackPortIsCutOff)
 {
 	if (!CanBecomeAnotherUser())
 	{
-		GTEST_SKIP() << "only root can act as another user";
+		GTEST_SKIP() << "only root, and not under ThreadSanitizer, can act as another user";
 	}
 	FApplication Application("tcp://127.0.0.1:*");
 	const std::string Endpoint = Application.Server->Endpoint();
